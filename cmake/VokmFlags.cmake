@@ -1,0 +1,21 @@
+# The house flags. `vokm_flags` is what library code is compiled with, `vokm_warnings` goes to tests, examples and
+# benchmarks too. Bits are a promise, so nothing here lets the compiler reorder, fuse or assume away: -fno-math-errno
+# only makes a root one instruction.
+if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+    set(CMAKE_BUILD_TYPE Release CACHE STRING "Debug, Release, RelWithDebInfo or MinSizeRel" FORCE)
+endif()
+set(CMAKE_C_STANDARD 99)
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS ON)    # vector types are a compiler extension
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+add_library(vokm_warnings INTERFACE)
+target_compile_options(vokm_warnings INTERFACE -Wall -Wextra -Wshadow $<$<BOOL:${VOKM_WERROR}>:-Werror>)
+
+add_library(vokm_flags INTERFACE)
+target_link_libraries(vokm_flags INTERFACE vokm_warnings)
+target_compile_options(vokm_flags INTERFACE
+    -msse3 -mfpmath=sse -ffp-contract=off -fno-math-errno
+    -fvisibility=hidden $<$<COMPILE_LANGUAGE:CXX>:-fvisibility-inlines-hidden>)
