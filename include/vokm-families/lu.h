@@ -15,7 +15,7 @@
 
    Rows are not moved: the exchanges stand in pivot alone, a permutation of 0 .. widthHeight-1.
 
-   Statuses: those of the checks. vokmLUDecomp gives vokStatusSingular if the largest pivot is too small: below 2*FLT_MIN
+   Statuses: those of the checks. vokmLUDecomp gives vokStatusSingular if the pivot of a step is too small: below 2*FLT_MIN
    (2*DBL_MIN) at sizes 3 to 6, at or below FLT_EPSILON (DBL_EPSILON) at others, whatever the scale of the matrix. A failing
    object of size 3 to 6 has the rows finished before in dst, the others untouched, and the failing exchange in pivot; one of
    other size the elimination up to the failing step, and no such exchange. vokmLUBackSubst tests no pivot: a zero on the
