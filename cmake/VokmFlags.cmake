@@ -19,3 +19,9 @@ target_link_libraries(vokm_flags INTERFACE vokm_warnings)
 target_compile_options(vokm_flags INTERFACE
     -msse3 -mfpmath=sse -ffp-contract=off -fno-math-errno
     -fvisibility=hidden $<$<COMPILE_LANGUAGE:CXX>:-fvisibility-inlines-hidden>)
+
+set(VOKM_SANITIZE "" CACHE STRING "Sanitizers for everything that is built, e.g. address,undefined")
+if(VOKM_SANITIZE)
+    add_compile_options(-fsanitize=${VOKM_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${VOKM_SANITIZE})
+endif()

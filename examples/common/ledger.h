@@ -1,0 +1,47 @@
+// Calls into the library, each with its status looked at, its time taken and its objects counted.
+#pragma once
+
+#include <chrono>
+#include <cstdio>
+#include <map>
+#include <stdexcept>
+#include <string>
+
+#include <vokm>
+
+class Ledger {
+public:
+    template <class... Parameters, class... Arguments>
+    void call(const char *name, int objects, vokStatus (*function)(Parameters...), Arguments... arguments) {
+        const auto start = std::chrono::steady_clock::now();
+        const vokStatus status = function(arguments...);
+        const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
+        if (status != vokStatusOk) throw std::runtime_error(std::string(name) + ": " + vokmStatusText(status));
+        entries[name].objects += objects;
+        entries[name].seconds += time.count();
+    }
+
+    void print() const {
+        Entry sum;
+        for (const auto &[name, entry] : entries) {
+            line(name, entry);
+            sum.objects += entry.objects;
+            sum.seconds += entry.seconds;
+        }
+        line("through the library", sum);
+    }
+
+private:
+    struct Entry {
+        double objects = 0, seconds = 0;
+    };
+
+    static void line(const std::string &name, const Entry &entry) {
+        std::printf("%-32s %12.0f objects %9.2f ms %8.0f million objects per second\n", name.c_str(), entry.objects,
+            1e3 * entry.seconds, 1e-6 * entry.objects / entry.seconds);
+    }
+
+    std::map<std::string, Entry> entries;
+};
+
+#define LEDGER_CALL(ledger, objects, function, ...) (ledger).call(#function, objects, function, __VA_ARGS__, objects)
