@@ -13,7 +13,7 @@ extern "C" {
 int32_t ownGetNumThreads(void);
 
 /* Stores the size in bytes of the largest data cache, or 0 if the system does not tell. Returns 0. */
-int32_t vokGetMaxCacheSizeB(int32_t *bytes);
+int32_t vokGetMaxCacheSizeB(int32_t* bytes);
 
 #ifdef __cplusplus
 }

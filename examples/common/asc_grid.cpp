@@ -16,7 +16,8 @@ constexpr size_t maxWord = 64;
 
 class Reader {
 public:
-    explicit Reader(const std::string &name) : path(name), file(name, std::ios::binary) {
+    explicit Reader(const std::string& name) : path(name), file(name, std::ios::binary)
+    {
         if (!file) throw std::runtime_error(path + ": cannot be opened: " + std::strerror(errno));
         if (file.peek() == EOF) throw std::runtime_error(path + ": is empty or no file");
         next();
@@ -26,12 +27,13 @@ public:
     std::string word;
     int line = 1;
 
-    void next() {
-        std::streambuf &in = *file.rdbuf();
+    void next()
+    {
+        std::streambuf& in = *file.rdbuf();
         word.clear();
         int c = in.sgetc();
         for (; c != EOF && isSpace(c); c = in.snextc()) ahead += c == '\n';
-        if (c == EOF) return;    // the line stays that of the last word, where something is missing
+        if (c == EOF) return;  // the line stays that of the last word, where something is missing
         line = ahead;
         for (; c != EOF && !isSpace(c); c = in.snextc()) {
             if (word.size() == maxWord) fail(quoted() + "... is not a number");
@@ -39,7 +41,8 @@ public:
         }
     }
 
-    double number(const std::string &what) {
+    double number(const std::string& what)
+    {
         double value = 0;
         const char *begin = word.data() + (word[0] == '+'), *end = word.data() + word.size();
         auto [rest, error] = std::from_chars(begin, end, value);
@@ -51,11 +54,13 @@ public:
         return value;
     }
 
-    [[noreturn]] void fail(const std::string &what, int at = 0) const {
+    [[noreturn]] void fail(const std::string& what, int at = 0) const
+    {
         throw std::runtime_error(path + ":" + std::to_string(at ? at : line) + ": " + what);
     }
 
-    std::string quoted() const {
+    std::string quoted() const
+    {
         std::string text = "\"";
         for (char c : word) text += c >= ' ' && c <= '~' ? c : '?';
         return text + "\"";
@@ -74,16 +79,17 @@ struct Key {
     int line;
 };
 
-}    // namespace
+}  // namespace
 
-AscGrid readAscGrid(const std::string &path) {
+AscGrid readAscGrid(const std::string& path)
+{
     Reader in(path);
     std::map<std::string, Key> keys;
     while (!in.word.empty() && std::isalpha(static_cast<unsigned char>(in.word[0]))) {
         std::string key;
         for (char c : in.word) key += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-        const bool known = key == "ncols" || key == "nrows" || key == "cellsize" || key == "nodata_value" ||
-                           key == "xllcorner" || key == "xllcenter" || key == "yllcorner" || key == "yllcenter";
+        const bool known = key == "ncols" || key == "nrows" || key == "cellsize" || key == "nodata_value" || key == "xllcorner" ||
+                           key == "xllcenter" || key == "yllcorner" || key == "yllcenter";
         if (!known) in.fail(in.quoted() + " is no key of an .asc header");
         if (keys.count(key)) in.fail("a second \"" + key + "\"");
         const int line = in.line;
@@ -92,12 +98,12 @@ AscGrid readAscGrid(const std::string &path) {
         keys[key] = {in.number("the value of \"" + key + "\""), line};
     }
 
-    auto require = [&](const char *key) {
+    auto require = [&](const char* key) {
         auto found = keys.find(key);
         if (found == keys.end()) in.fail("the header has no \"" + std::string(key) + "\"");
         return found->second;
     };
-    auto requireSize = [&](const char *key) {
+    auto requireSize = [&](const char* key) {
         const Key size = require(key);
         if (size.value != std::floor(size.value)) in.fail("\"" + std::string(key) + "\" must be a whole number", size.line);
         if (size.value < 2) in.fail("\"" + std::string(key) + "\" must be at least 2", size.line);

@@ -8,8 +8,8 @@ struct AscGrid {
     int columns = 0;
     int rows = 0;
     double cellsize = 1;
-    std::vector<float> heights;    // rows * columns of them
+    std::vector<float> heights;  // rows * columns of them
 };
 
 // Throws std::runtime_error with one line "file:line: what is wrong" if the file is not a grid without gaps.
-AscGrid readAscGrid(const std::string &path);
+AscGrid readAscGrid(const std::string& path);

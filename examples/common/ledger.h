@@ -12,7 +12,8 @@
 class Ledger {
 public:
     template <class... Parameters, class... Arguments>
-    void call(const char *name, int objects, vokStatus (*function)(Parameters...), Arguments... arguments) {
+    void call(const char* name, int objects, vokStatus (*function)(Parameters...), Arguments... arguments)
+    {
         const auto start = std::chrono::steady_clock::now();
         const vokStatus status = function(arguments...);
         const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
@@ -21,9 +22,10 @@ public:
         entries[name].seconds += time.count();
     }
 
-    void print() const {
+    void print() const
+    {
         Entry sum;
-        for (const auto &[name, entry] : entries) {
+        for (const auto& [name, entry] : entries) {
             line(name, entry);
             sum.objects += entry.objects;
             sum.seconds += entry.seconds;
@@ -36,7 +38,8 @@ private:
         double objects = 0, seconds = 0;
     };
 
-    static void line(const std::string &name, const Entry &entry) {
+    static void line(const std::string& name, const Entry& entry)
+    {
         std::printf("%-32s %12.0f objects %9.2f ms %8.0f million objects per second\n", name.c_str(), entry.objects,
             1e3 * entry.seconds, 1e-6 * entry.objects / entry.seconds);
     }

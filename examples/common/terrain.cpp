@@ -6,14 +6,16 @@
 namespace {
 
 // A height of the grid, also outside of it: there the surface goes on as a plane.
-double heightAt(const AscGrid &grid, int column, int row) {
+double heightAt(const AscGrid& grid, int column, int row)
+{
     const int c = std::clamp(column, 0, grid.columns - 1), r = std::clamp(row, 0, grid.rows - 1);
     const double height = grid.heights[size_t(r) * grid.columns + c];
     return c == column && r == row ? height : 2 * height - heightAt(grid, 2 * c - column, 2 * r - row);
 }
 
 // The four weights of a cubic B-spline at the fraction t of a cell. It rounds off the steps of whole metres.
-void splineWeights(double t, double (&w)[4]) {
+void splineWeights(double t, double (&w)[4])
+{
     w[0] = (1 - t) * (1 - t) * (1 - t) / 6;
     w[1] = (3 * t * t * t - 6 * t * t + 4) / 6;
     w[3] = t * t * t / 6;
@@ -24,15 +26,17 @@ struct Direction {
     float x, y, z;
 };
 
-Direction direction(float compass, float above) {    // degrees, from north over east and from the horizon up
+Direction direction(float compass, float above)
+{  // degrees, from north over east and from the horizon up
     const float degree = 3.14159265f / 180, level = std::cos(degree * above);
     return {level * std::sin(degree * compass), level * std::cos(degree * compass), std::sin(degree * above)};
 }
 
-}    // namespace
+}  // namespace
 
-Terrain::Terrain(const AscGrid &grid, int detail)
-    : columns((grid.columns - 1) * detail + 3), rows((grid.rows - 1) * detail + 3), points(columns * rows) {
+Terrain::Terrain(const AscGrid& grid, int detail)
+    : columns((grid.columns - 1) * detail + 3), rows((grid.rows - 1) * detail + 3), points(columns * rows)
+{
     const auto [low, high] = std::minmax_element(grid.heights.begin(), grid.heights.end());
     lowest = *low;
     highest = *high;
@@ -68,14 +72,15 @@ Terrain::Terrain(const AscGrid &grid, int detail)
     }
 }
 
-Vectors normals(const Terrain &terrain, Ledger &ledger) {
+Vectors normals(const Terrain& terrain, Ledger& ledger)
+{
     // One call for the whole grid: point i less point i - 2 and so on. At the ends of the rows that joins points of two
     // rows, which gives nonsense in the border, where nobody looks.
-    const Vectors &p = terrain.points;
+    const Vectors& p = terrain.points;
     const int first = terrain.columns, count = p.count - 2 * first, s0 = p.stride0(), s2 = p.stride2();
     Vectors east(p.count), north(p.count), normal(p.count);
     std::vector<float> length(p.count);
-    const float *at = p.plane(0) + first;
+    const float* at = p.plane(0) + first;
     float *u = east.plane(0) + first, *v = north.plane(0) + first, *n = normal.plane(0) + first;
 
     LEDGER_CALL(ledger, count, vokmSub_vava_32f, at + 1, s0, s2, at - 1, s0, s2, u, s0, s2, 3);
@@ -88,7 +93,8 @@ Vectors normals(const Terrain &terrain, Ledger &ledger) {
 }
 
 // How much light each point gets from a far lamp of brightness 1, with the shadows that the terrain throws on itself.
-static void lightFrom(Direction toLamp, const Terrain &terrain, const Vectors &normals, std::vector<float> &light, Ledger &ledger) {
+static void lightFrom(Direction toLamp, const Terrain& terrain, const Vectors& normals, std::vector<float>& light, Ledger& ledger)
+{
     const float lamp[3] = {toLamp.x, toLamp.y, toLamp.z};
     LEDGER_CALL(ledger, normals.count, vokmDotProduct_vav_32f, normals.plane(0), normals.stride0(), normals.stride2(), lamp,
         int(sizeof(float)), light.data(), 3);
@@ -98,10 +104,10 @@ static void lightFrom(Direction toLamp, const Terrain &terrain, const Vectors &n
     const bool alongY = std::fabs(toLamp.y) >= std::fabs(toLamp.x);
     const int lines = alongY ? terrain.rows : terrain.columns, places = alongY ? terrain.columns : terrain.rows;
     const int lineStep = alongY ? terrain.columns : 1, placeStep = alongY ? 1 : terrain.columns;
-    const float major = alongY ? -toLamp.y : toLamp.x, minor = alongY ? toLamp.x : -toLamp.y;    // rows grow southward
+    const float major = alongY ? -toLamp.y : toLamp.x, minor = alongY ? toLamp.x : -toLamp.y;  // rows grow southward
     const float slant = major != 0 ? minor / std::fabs(major) : 0;
     const float drop = major != 0 ? terrain.step * toLamp.z / std::fabs(major) : 1e3f, softness = 1 / terrain.step;
-    const float *height = terrain.points.plane(2);
+    const float* height = terrain.points.plane(2);
     const auto shift = static_cast<int>(std::floor(slant));
     const float t = slant - static_cast<float>(shift);
     std::vector<float> edge(places, -1e3f), before;
@@ -117,7 +123,8 @@ static void lightFrom(Direction toLamp, const Terrain &terrain, const Vectors &n
     }
 }
 
-std::vector<Colour> sunAndSky(const Terrain &terrain, const Vectors &normals, Ledger &ledger) {
+std::vector<Colour> sunAndSky(const Terrain& terrain, const Vectors& normals, Ledger& ledger)
+{
     // A few lamps close together make a sun with soft shadows, many weak ones all around make a sky.
     struct Lamp {
         Direction direction;
@@ -127,24 +134,26 @@ std::vector<Colour> sunAndSky(const Terrain &terrain, const Vectors &normals, Le
     for (int k = -2; k <= 2; ++k)
         lamps.push_back({direction(315 + 1.5f * static_cast<float>(k), 36 + static_cast<float>(k * k % 3)), fromHex(0xfff1d6)});
     const float sun = 0.70f / (5 * lamps[2].direction.z);
-    for (Lamp &lamp : lamps) lamp.colour = sun * lamp.colour;
+    for (Lamp& lamp : lamps) lamp.colour = sun * lamp.colour;
     for (int k = 0; k < 48; ++k) {
-        const Direction d = direction(22.5f * static_cast<float>(k) + 7.5f * static_cast<float>(k / 16), 18 + 25 * static_cast<float>(k / 16));
+        const Direction d =
+            direction(22.5f * static_cast<float>(k) + 7.5f * static_cast<float>(k / 16), 18 + 25 * static_cast<float>(k / 16));
         lamps.push_back({d, 0.016f * fromHex(0xd8e6ff)});
     }
 
     std::vector<Colour> light(normals.count);
     std::vector<float> one(normals.count);
-    for (const Lamp &lamp : lamps) {
+    for (const Lamp& lamp : lamps) {
         lightFrom(lamp.direction, terrain, normals, one, ledger);
         for (int i = 0; i < normals.count; ++i) light[i] = light[i] + one[i] * lamp.colour;
     }
     return light;
 }
 
-Colour landColour(const Terrain &terrain, float z) {
-    static const Colour stops[] = {fromHex(0x4f7f5b), fromHex(0x8fae70), fromHex(0xd9cf97), fromHex(0xd0a56c), fromHex(0xa9775a),
-        fromHex(0xf3eee6)};
+Colour landColour(const Terrain& terrain, float z)
+{
+    static const Colour stops[] = {
+        fromHex(0x4f7f5b), fromHex(0x8fae70), fromHex(0xd9cf97), fromHex(0xd0a56c), fromHex(0xa9775a), fromHex(0xf3eee6)};
     constexpr int last = sizeof stops / sizeof *stops - 1;
     const float top = terrain.zScale * (terrain.highest - terrain.lowest);
     const float place = top > 0 ? std::clamp(z / top, 0.0f, 1.0f) * last : 0;

@@ -5,7 +5,8 @@
 #include <cmath>
 
 View::View(int width, int height, double compass, double above, double radius)
-    : image(width, height), nearest(size_t(width) * height) {
+    : image(width, height), nearest(size_t(width) * height)
+{
     constexpr double degree = 3.14159265358979 / 180;
     const double a = degree * compass, b = degree * above, distance = 3.5 * radius, focus = 1.5 * width;
     const double forward[3] = {-std::sin(a) * std::cos(b), -std::cos(a) * std::cos(b), -std::sin(b)};
@@ -25,8 +26,9 @@ View::View(int width, int height, double compass, double above, double radius)
     matrix[3][3] = static_cast<float>(distance);
 }
 
-void View::draw(const Surface &surface, Ledger &ledger) {
-    const Vectors &from = surface.points;
+void View::draw(const Surface& surface, Ledger& ledger)
+{
+    const Vectors& from = surface.points;
     Vectors screen(from.count);
     LEDGER_CALL(ledger, from.count, vokmAffineTransform3DH_mva_32f, matrix[0], int(sizeof matrix[0]), int(sizeof(float)),
         from.plane(0), from.stride0(), from.stride2(), screen.plane(0), screen.stride0(), screen.stride2());
@@ -35,17 +37,20 @@ void View::draw(const Surface &surface, Ledger &ledger) {
     for (int row = surface.margin; row + 1 < surface.rows - surface.margin; ++row)
         for (int column = surface.margin; column + 1 < surface.columns - surface.margin; ++column) {
             const int a = row * surface.columns + column, b = a + 1, c = a + surface.columns, d = c + 1;
-            for (const auto &[i, j, k] : {std::array{a, b, c}, std::array{b, d, c}})
-                if (z[i] > 0 && z[j] > 0 && z[k] > 0)    // in front of us
+            for (const auto& [i, j, k] : {std::array{a, b, c}, std::array{b, d, c}})
+                if (z[i] > 0 && z[j] > 0 && z[k] > 0)  // in front of us
                     triangle({x[i], x[j], x[k]}, {y[i], y[j], y[k]}, {z[i], z[j], z[k]},
                         {&surface.colours[i], &surface.colours[j], &surface.colours[k]});
         }
 }
 
-void View::triangle(const float (&x)[3], const float (&y)[3], const float (&z)[3], const Colour *const (&corners)[3]) {
+void View::triangle(const float (&x)[3], const float (&y)[3], const float (&z)[3], const Colour* const (&corners)[3])
+{
     const auto clampTo = [](float value, int end) { return static_cast<int>(std::clamp(value, 0.0f, static_cast<float>(end))); };
-    const int left = clampTo(std::min({x[0], x[1], x[2]}), image.width), right = clampTo(std::max({x[0], x[1], x[2]}) + 1, image.width);
-    const int top = clampTo(std::min({y[0], y[1], y[2]}), image.height), bottom = clampTo(std::max({y[0], y[1], y[2]}) + 1, image.height);
+    const int left = clampTo(std::min({x[0], x[1], x[2]}), image.width),
+              right = clampTo(std::max({x[0], x[1], x[2]}) + 1, image.width);
+    const int top = clampTo(std::min({y[0], y[1], y[2]}), image.height),
+              bottom = clampTo(std::max({y[0], y[1], y[2]}) + 1, image.height);
     const float area = (x[1] - x[0]) * (y[2] - y[0]) - (x[2] - x[0]) * (y[1] - y[0]);
     if (area == 0) return;
     for (int row = top; row < bottom; ++row)
@@ -56,7 +61,7 @@ void View::triangle(const float (&x)[3], const float (&y)[3], const float (&z)[3
             const float u = 1 - v - w;
             if (!(u >= 0 && v >= 0 && w >= 0)) continue;
             const float near = u * z[0] + v * z[1] + w * z[2];
-            float &seen = nearest[size_t(row) * image.width + column];
+            float& seen = nearest[size_t(row) * image.width + column];
             if (near <= seen) continue;
             seen = near;
             image.at(column, row) = u * *corners[0] + v * *corners[1] + w * *corners[2];
@@ -68,16 +73,17 @@ namespace {
 constexpr float tableZ = -0.15f;
 
 // The four sides of the block under the terrain: one strip all around, layers of earth from the surface to the table.
-void drawSides(View &view, const Terrain &terrain, Ledger &ledger) {
+void drawSides(View& view, const Terrain& terrain, Ledger& ledger)
+{
     constexpr int layers = 40;
-    std::vector<std::array<int, 2>> edge;    // a point of the terrain's edge, and the side that it is on
+    std::vector<std::array<int, 2>> edge;  // a point of the terrain's edge, and the side that it is on
     for (int c = 1; c < terrain.columns - 1; ++c) edge.push_back({terrain.at(c, terrain.rows - 2), 0});
     for (int r = terrain.rows - 2; r > 0; --r) edge.push_back({terrain.at(terrain.columns - 2, r), 1});
     for (int c = terrain.columns - 2; c > 0; --c) edge.push_back({terrain.at(c, 1), 2});
     for (int r = 1; r < terrain.rows - 1; ++r) edge.push_back({terrain.at(1, r), 3});
 
     const Colour earth[] = {fromHex(0x8a6f55), fromHex(0x6f5a4a), fromHex(0x7d6650), fromHex(0x574940)};
-    const float facing[] = {0.62f, 0.45f, 0.95f, 1.0f};    // south, east, north, west, with the sun in the north-west
+    const float facing[] = {0.62f, 0.45f, 0.95f, 1.0f};  // south, east, north, west, with the sun in the north-west
     const auto columns = static_cast<int>(edge.size());
     Vectors points(columns * (layers + 1));
     std::vector<Colour> colours(points.count);
@@ -99,7 +105,8 @@ void drawSides(View &view, const Terrain &terrain, Ledger &ledger) {
 }
 
 // A pale table with the soft shadow of the block on it, fading into the distance.
-void drawTable(View &view, const Terrain &terrain, Ledger &ledger) {
+void drawTable(View& view, const Terrain& terrain, Ledger& ledger)
+{
     constexpr int side = 400;
     constexpr float half = 9;
     const Colour table = fromHex(0xe9e6e0), distant = fromHex(0xf6f5f2);
@@ -126,10 +133,11 @@ void drawTable(View &view, const Terrain &terrain, Ledger &ledger) {
     view.draw({side, side, 0, points, colours}, ledger);
 }
 
-}    // namespace
+}  // namespace
 
-Image modelView(const Terrain &terrain, const std::vector<Colour> &colours, int width, int height, double compass, double above,
-    Ledger &ledger) {
+Image modelView(const Terrain& terrain, const std::vector<Colour>& colours, int width, int height, double compass, double above,
+    Ledger& ledger)
+{
     constexpr int fine = 2;
     const float x = terrain.points.plane(0)[terrain.at(1, 1)], y = terrain.points.plane(1)[terrain.at(1, 1)];
     View view(fine * width, fine * height, compass, above, std::hypot(x, y));

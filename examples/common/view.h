@@ -10,25 +10,25 @@
 // A surface: columns x rows of points, of which a margin all around is left out, and their colours.
 struct Surface {
     int columns, rows, margin;
-    const Vectors &points;
-    const std::vector<Colour> &colours;
+    const Vectors& points;
+    const std::vector<Colour>& colours;
 };
 
 // Looks at the middle of the terrain from a point of the compass and a height above the horizon, both in degrees.
 class View {
 public:
     View(int width, int height, double compass, double above, double radius);
-    void draw(const Surface &surface, Ledger &ledger);
+    void draw(const Surface& surface, Ledger& ledger);
 
     Image image;
 
 private:
-    void triangle(const float (&x)[3], const float (&y)[3], const float (&z)[3], const Colour *const (&corners)[3]);
+    void triangle(const float (&x)[3], const float (&y)[3], const float (&z)[3], const Colour* const (&corners)[3]);
 
     float matrix[4][4];
-    std::vector<float> nearest;    // 1 / distance for each pixel
+    std::vector<float> nearest;  // 1 / distance for each pixel
 };
 
 // The terrain as a model on a table, seen from there.
-Image modelView(const Terrain &terrain, const std::vector<Colour> &colours, int width, int height, double compass, double above,
-    Ledger &ledger);
+Image modelView(const Terrain& terrain, const std::vector<Colour>& colours, int width, int height, double compass, double above,
+    Ledger& ledger);

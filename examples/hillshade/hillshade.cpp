@@ -18,7 +18,8 @@
 namespace {
 
 // A round distance between contour lines (1, 2 or 5 times a power of ten) that gives about twelve of them.
-float contourInterval(const Terrain &terrain) {
+float contourInterval(const Terrain& terrain)
+{
     const float ideal = (terrain.highest - terrain.lowest) / 12;
     if (!(ideal > 0)) return 1;
     const float decade = std::pow(10.0f, std::floor(std::log10(ideal)));
@@ -28,17 +29,20 @@ float contourInterval(const Terrain &terrain) {
 }
 
 // How dark the contour lines make a point: lines keep their width however steep the ground, and every fifth is heavier.
-float contourShade(const Terrain &terrain, int i, float interval) {
-    const float *z = terrain.points.plane(2);
+float contourShade(const Terrain& terrain, int i, float interval)
+{
+    const float* z = terrain.points.plane(2);
     // A hair below the round heights: a plateau at a round height then has a line around it, and is not all line.
-    const float unit = terrain.zScale * interval, place = z[i] / unit + terrain.lowest / interval + 0.03f, line = std::round(place);
+    const float unit = terrain.zScale * interval, place = z[i] / unit + terrain.lowest / interval + 0.03f,
+                line = std::round(place);
     const float slope = std::hypot(z[i + 1] - z[i - 1], z[i + terrain.columns] - z[i - terrain.columns]) / 2;
     const float pixels = std::fabs(place - line) * unit / std::max(slope, 1e-3f * unit);
     const bool heavy = std::fmod(line, 5.0f) == 0;
     return (heavy ? 0.42f : 0.22f) * std::clamp((heavy ? 1.5f : 1.1f) - pixels, 0.0f, 1.0f);
 }
 
-void drawPictures(const std::string &input, const std::filesystem::path &directory) {
+void drawPictures(const std::string& input, const std::filesystem::path& directory)
+{
     const AscGrid grid = readAscGrid(input);
     const Terrain terrain(grid, std::clamp(1400 / (std::max(grid.columns, grid.rows) - 1), 1, 64));
     std::printf("%s: %d x %d heights from %g to %g, drawn as %d x %d points, heights %.2g times as high\n", input.c_str(),
@@ -56,7 +60,7 @@ void drawPictures(const std::string &input, const std::filesystem::path &directo
             colours[i] = colours[i] * landColour(terrain, terrain.points.plane(2)[i]);
             const Colour lined = mix(colours[i], ink, contourShade(terrain, i, interval));
             map.at(column - 1, row - 1) = lined;
-            colours[i] = mix(colours[i], lined, 0.6f);    // fainter in the view
+            colours[i] = mix(colours[i], lined, 0.6f);  // fainter in the view
         }
     const Image view = modelView(terrain, colours, 1600, 1000, 202, 31, ledger);
 
@@ -68,16 +72,17 @@ void drawPictures(const std::string &input, const std::filesystem::path &directo
     std::printf("pictures: %s-map.png (contour lines every %g) and %s-view.png\n", stem.c_str(), interval, stem.c_str());
 }
 
-}    // namespace
+}  // namespace
 
-int main(int argc, char **argv) {
+int main(int argc, char** argv)
+{
     if (argc < 2 || argc > 3) {
         std::fprintf(stderr, "usage: hillshade GRID.asc [DIRECTORY]\n");
         return 1;
     }
     try {
         drawPictures(argv[1], argc == 3 ? argv[2] : ".");
-    } catch (const std::exception &error) {
+    } catch (const std::exception& error) {
         std::fprintf(stderr, "hillshade: %s\n", error.what());
         return 1;
     }

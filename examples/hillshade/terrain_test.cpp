@@ -6,20 +6,23 @@
 
 static int failures = 0;
 
-static void near(const char *what, double seen, double expected, double tolerance) {
+static void near(const char* what, double seen, double expected, double tolerance)
+{
     if (std::fabs(seen - expected) <= tolerance) return;
     std::printf("%s: %g, expected %g\n", what, seen, expected);
     ++failures;
 }
 
-template <class Height> static AscGrid gridOf(int columns, int rows, Height height) {
+template <class Height> static AscGrid gridOf(int columns, int rows, Height height)
+{
     AscGrid grid{columns, rows, 1, {}};
     for (int row = 0; row < rows; ++row)
         for (int column = 0; column < columns; ++column) grid.heights.push_back(static_cast<float>(height(column, row)));
     return grid;
 }
 
-int main() {
+int main()
+{
     Ledger ledger;
 
     // A plane that rises to the east and to the north: one normal everywhere, also at the corners, and no shadows.

@@ -2,13 +2,13 @@
 #include <vokm>
 
 enum { count = 1000 };
-
-int main(void) {
+int main(void)
+{
     static float points[count][3], moved[count][3], distance[count];
     const float turn[4][4] = {{0, -1, 0, 5}, {1, 0, 0, 0}, {0, 0, 1, 2}, {0, 0, 0, 1}};
     for (int i = 0; i < count; ++i) points[i][0] = (float)i;
 
-    /* Pointer, byte strides (row to row or object to object, then element to element), ..., count. */
+    /* Each operand: pointer, then byte strides from row to row or object to object, and from element to element. */
     vokStatus status = vokmAffineTransform3DH_mva_32f(turn[0], 16, 4, points[0], 12, 4, moved[0], 12, 4, count);
     if (status == vokStatusOk) status = vokmL2Norm_va_32f(moved[0], 12, 4, distance, 3, count);
     if (status != vokStatusOk) {

@@ -3,7 +3,8 @@
 #include <stdio.h>
 #include <string.h>
 
-int main(void) {
+int main(void)
+{
     const float a[2][3] = {{1, 0, 0}, {0, 2, 0}}, b[2][3] = {{0, 1, 0}, {0, 0, 3}};
     float c[2][3];
     vokStatus status = vokmCrossProduct_vava_32f(a[0], 12, 4, b[0], 12, 4, c[0], 12, 4, 2);
