@@ -1,0 +1,291 @@
+#include "job.h"
+
+#include <cmath>
+#include <limits>
+#include <sstream>
+
+#include "expression.h"
+#include "threads.h"
+
+namespace harness {
+namespace {
+
+std::map<std::string, const Oracle*>& oracles() {
+    static std::map<std::string, const Oracle*> known;
+    return known;
+}
+
+int count(const JobSpec& spec) {
+    auto found = spec.sizes.find("count");
+    return found == spec.sizes.end() ? 1 : found->second;
+}
+
+template <class T>
+T ordinaryValue(Random& random) {
+    // Full mantissas and mixed exponents: a sum in another order nearly always has other bits.
+    std::uniform_real_distribution<double> mantissa(1.0, 2.0);
+    double value = std::ldexp(mantissa(random), int(random() % 7) - 3);
+    return T(random() % 2 ? value : -value);
+}
+
+template <class T>
+T specialValue(Random& random) {
+    using Limits = std::numeric_limits<T>;
+    const T pool[] = {T(0), -T(0), T(1), T(-1), Limits::infinity(), -Limits::infinity(), Limits::quiet_NaN(), Limits::denorm_min(),
+        Limits::min(), Limits::max(), -Limits::max(), std::sqrt(Limits::max()), std::sqrt(Limits::min()), Limits::min() / 8};
+    return random() % 3 ? ordinaryValue<T>(random) : pool[random() % (sizeof pool / sizeof pool[0])];
+}
+
+template <class T>
+T someValue(Values kind, Random& random) {
+    switch (kind) {
+        case Values::special: return specialValue<T>(random);
+        case Values::zeros: return random() % 3 ? (random() % 2 ? T(0) : -T(0)) : ordinaryValue<T>(random);
+        default: return ordinaryValue<T>(random);
+    }
+}
+
+}  // namespace
+
+Oracle::Oracle(const std::vector<std::string>& groups, Single f, Double d) : single(f), real(d) {
+    for (const std::string& group : groups) {
+        oracles()[group] = this;
+    }
+}
+
+const Oracle* Oracle::find(const std::string& group) {
+    auto found = oracles().find(group);
+    return found == oracles().end() ? nullptr : found->second;
+}
+
+Job::Job(const Function& described, const JobSpec& wanted) : function(described), spec(wanted) {
+    Random random(spec.seed * 0x9E3779B97F4A7C15u + 1);
+    arguments.integers = spec.sizes;
+    layOut(random);
+    fill(random);
+    char layout = function.layout();
+    bool dense = function.kernels == "one" || isDense(function, arguments.integers);
+    kernel = layout == 'P' ? "_P" : layout == 'L' ? (dense ? "_L" : "_LS2") : (dense ? "" : "_S2");
+}
+
+void Job::layOut(Random& random) {
+    const int64_t gap = spec.gap;
+    int64_t end = gap;
+    auto size = [this](const std::string& name) { return arguments.integers.at(name == "n" ? "widthHeight" : name); };
+    for (const ArgSpec& arg : function.args) {
+        if (arg.kind == ArgKind::real || arg.kind == ArgKind::integer) {
+            continue;
+        }
+        Operand operand;
+        operand.spec = arg;
+        operand.elementSize = arg.kind == ArgKind::indices ? 4 : function.elementSize();
+        operand.shape = {arg.array && arg.kind != ArgKind::scratch ? count(spec) : 1, evaluate(arg.rows, size),
+            evaluate(arg.cols, size), arg.letter == 't'};
+        if (arg.letter == 't' && !arg.storedShape) {
+            std::swap(operand.shape.rows, operand.shape.cols);
+        }
+        auto chosen = spec.patterns.find(arg.name);
+        const Pattern pattern = chosen == spec.patterns.end() ? spec.patterns[""] : chosen->second;
+        int64_t extent = operand.lay(pattern, random);
+        int64_t start = (end + 63) / 64 * 64 + pattern.align;
+        if (auto over = spec.overlay.find(arg.name); over != spec.overlay.end()) {
+            start = operands.at(over->second.first).base + over->second.second;
+        }
+        operand.place(start, pattern, random);
+        end = std::max(end, start + extent + gap);
+        operands[arg.name] = operand;
+        laid.push_back(arg.name);
+    }
+    arena.allocate(end);
+    for (const std::string& name : laid) {
+        operands[name].bind(arena.live(), arguments);
+    }
+    std::map<std::string, int32_t> declared;
+    for (const Param& param : function.params()) {
+        if (param.kind == ParamClass::integer) {
+            declared[param.name] = arguments.integers.at(param.name);
+        }
+    }
+    arguments.integers = declared;
+}
+
+void Job::fill(Random& random) {
+    if (function.isDouble) {
+        fillAs<double>(random);
+    } else {
+        fillAs<float>(random);
+    }
+    arena.copyToModel();
+}
+
+template <class T>
+void Job::fillAs(Random& random) {
+    for (size_t i = 0; i < arena.size(); ++i) {
+        arena.live()[i] = char(0xA0 + i % 61);
+    }
+    for (const std::string& name : laid) {
+        const Operand& operand = operands.at(name);
+        if (operand.spec.kind != ArgKind::object || operand.spec.written) {
+            continue;
+        }
+        for (int i = 0; i < operand.shape.objects; ++i) {
+            for (int r = 0; r < operand.shape.rows; ++r) {
+                for (int c = 0; c < operand.shape.cols; ++c) {
+                    store<T>(arena.live() + operand.storedOffset(i, r, c), someValue<T>(spec.values, random));
+                }
+            }
+        }
+    }
+    for (const ArgSpec& arg : function.args) {
+        if (arg.kind == ArgKind::real) {
+            arguments.reals[arg.name] = someValue<T>(spec.values, random);
+        }
+    }
+}
+
+bool Job::goesParallel() const {
+    return wantsThreads(function, arguments.integers) && spec.threads > 1 && count(spec) >= spec.threads;
+}
+
+int Job::expectedQuestions() const {
+    return !wantsThreads(function, arguments.integers) ? 0 : goesParallel() ? 2 : 1;
+}
+
+int32_t Job::runLibrary() {
+    setThreads(spec.threads, spec.laterThreads);
+    return call(function.name, arguments);
+}
+
+// Adds each status that the call may return; the return value is that of the only or first share that failed.
+int32_t Job::runModel(std::set<int32_t>& acceptable) {
+    const Oracle* oracle = Oracle::find(function.group());
+    if (!oracle) {
+        throw std::runtime_error("no oracle for " + function.group());
+    }
+    int wanted = spec.laterThreads < 0 ? spec.threads : spec.laterThreads;
+    int team = goesParallel() ? wanted : 1;
+    int share = count(spec) / team, rest = count(spec) % team, start = 0;
+    for (int t = 0; t < team; ++t) {
+        int n = share + (t < rest);
+        int32_t status = function.isDouble ? oracle->real(Model<double>(*this), start, n)
+                                           : oracle->single(Model<float>(*this), start, n);
+        start += n;
+        if (status != 0 && (function.mergesStatus || team == 1)) {
+            acceptable.insert(status);
+        }
+    }
+    if (acceptable.empty()) {
+        acceptable.insert(0);
+    }
+    return *acceptable.begin();
+}
+
+std::string Job::check() {
+    std::ostringstream problem;
+    int32_t status = runLibrary();
+    int questions = threadQuestions();
+    std::set<int32_t> acceptable;
+    runModel(acceptable);
+    if (!acceptable.count(status)) {
+        problem << "status " << status << " instead of " << *acceptable.begin() << "; ";
+    }
+    if (questions != expectedQuestions()) {
+        problem << questions << " questions for threads instead of " << expectedQuestions() << "; ";
+    }
+    problem << differences();
+    return problem.str().empty() ? "" : describe() + ": " + problem.str();
+}
+
+std::string Job::describe() const {
+    std::ostringstream text;
+    text << function.name << " kernel" << (kernel.empty() ? " plain" : " " + kernel) << " (";
+    for (auto& [name, value] : spec.sizes) {
+        text << name << " " << value << ", ";
+    }
+    text << "threads " << spec.threads << ", seed " << spec.seed << ", values " << int(spec.values) << ")";
+    for (auto& [name, pattern] : spec.patterns) {
+        text << " [" << (name.empty() ? "all" : name) << ": " << pattern.describe() << "]";
+    }
+    return text.str();
+}
+
+std::string Job::differences() {
+    for (const std::string& name : laid) {
+        const Operand& operand = operands.at(name);
+        if (operand.entries != operand.entriesBefore) {
+            return "the table of " + name + " was changed";
+        }
+    }
+    return function.isDouble ? differencesAs<double>() : differencesAs<float>();
+}
+
+// Not-a-numbers of any payload count as equal, in elements that are results; scratch is free.
+template <class T>
+void Job::forgiveNaN() {
+    for (const std::string& name : laid) {
+        const Operand& operand = operands.at(name);
+        if (!operand.spec.written || operand.spec.kind == ArgKind::indices) {
+            continue;
+        }
+        for (int i = 0; i < operand.shape.objects; ++i) {
+            for (int e = 0; e < operand.shape.rows * operand.shape.cols; ++e) {
+                int64_t at = operand.storedOffset(i, e / operand.shape.cols, e % operand.shape.cols);
+                T got = load<T>(arena.live() + at), wanted = load<T>(arena.model() + at);
+                if (operand.spec.kind == ArgKind::scratch || sameBits(got, wanted)) {
+                    store<T>(arena.model() + at, got);
+                }
+            }
+        }
+    }
+}
+
+template <class T>
+std::string Job::differencesAs() {
+    forgiveNaN<T>();
+    if (std::memcmp(arena.live(), arena.model(), arena.size()) == 0) {
+        return "";
+    }
+    int64_t at = 0;
+    while (arena.live()[at] == arena.model()[at]) {
+        ++at;
+    }
+    std::ostringstream text;
+    text << std::hexfloat << owner(at);
+    int64_t element = at / int64_t(sizeof(T)) * int64_t(sizeof(T));
+    if (element + int64_t(sizeof(T)) <= int64_t(arena.size())) {
+        text << " is " << load<T>(arena.live() + element) << " instead of " << load<T>(arena.model() + element);
+    }
+    return text.str();
+}
+
+std::string Job::owner(int64_t offset) const {
+    std::ostringstream text;
+    for (const std::string& name : laid) {
+        const Operand& operand = operands.at(name);
+        for (int i = 0; i < operand.shape.objects; ++i) {
+            for (int r = 0; r < operand.shape.rows; ++r) {
+                for (int c = 0; c < operand.shape.cols; ++c) {
+                    int64_t from = operand.storedOffset(i, r, c);
+                    if (offset >= from && offset < from + operand.elementSize) {
+                        text << name << " object " << i << " stored (" << r << "," << c << ")";
+                        return text.str();
+                    }
+                }
+            }
+        }
+    }
+    text << "memory outside all operands, at byte " << offset << " of the arena";
+    return text.str();
+}
+
+std::map<std::string, int32_t> equalSizes(const Function& function, int n, int count) {
+    std::map<std::string, int32_t> sizes;
+    for (const ArgSpec& arg : function.args) {
+        if (arg.kind == ArgKind::integer) {
+            sizes[arg.name] = arg.name == "count" ? count : n;
+        }
+    }
+    return sizes;
+}
+
+}  // namespace harness
