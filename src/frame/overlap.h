@@ -1,0 +1,208 @@
+// Overlap: whether a pack of objects may be read before the first of them is written.
+//
+// Objects are finished in ascending order, one before the next is begun; that is what a caller sees whose result overlaps an
+// operand. A pack reads all its objects before it writes one, which gives the same results unless a result of the pack lies
+// where a later object of the pack is read, or two results of the pack share memory. The guard here decides that once for the
+// stride and pointer layouts, and for each pack in the list layout; where it says no, the objects go one by one.
+#pragma once
+
+#include <algorithm>
+
+#include "pack.h"
+
+namespace vokm {
+
+using Address = std::uintptr_t;
+
+/// The bytes from `low` up to, not including, `high`.
+struct Extent {
+    Address low, high;
+    bool disjoint(const Extent& other) const { return high <= other.low || other.high <= low; }
+    Extent shifted(i64 bytes) const { return {low + Address(bytes), high + Address(bytes)}; }
+    Extent through(i64 bytes) const { return {low, high + Address(bytes)}; }
+    Extent with(const Extent& other) const { return {std::min(low, other.low), std::max(high, other.high)}; }
+};
+
+/// An operand and the logical shape of its objects.
+template <class View> struct Shaped {
+    const View& view;
+    Shape shape;
+
+    template <class Visit> void eachElement(i32 i, Visit visit) const
+    {
+        const auto object = view.object(i, shape);
+        for (i32 r = 0; r < shape.rows; ++r) {
+            for (i32 c = 0; c < shape.cols; ++c) visit(reinterpret_cast<Address>(&object(r, c)));
+        }
+    }
+    Extent extent(i32 i) const
+    {
+        constexpr Address E = sizeof(typename View::element);
+        if constexpr (View::code == Code::ca) {
+            const auto at = reinterpret_cast<Address>(&vector().object(i, Shape{1, 1})(0, 0));
+            return {at, at + E};
+        } else if constexpr (requires { view.table; }) {
+            Extent all{~Address(0), 0};
+            eachElement(i, [&](Address at) { all = all.with({at, at + E}); });
+            return all;
+        } else {
+            const auto object = view.object(i, shape);
+            return {reinterpret_cast<Address>(&object(0, 0)),
+                    reinterpret_cast<Address>(&object(shape.rows - 1, shape.cols - 1)) + E};
+        }
+    }
+    // An array of constants as an array of vectors of one element.
+    auto vector() const
+    {
+        if constexpr (requires { view.list; }) {
+            return ListView<typename View::element, Code::va>{view.list, view.shift, 0, 0};
+        } else {
+            return StrideView<typename View::element, Code::va>{view.base, view.stride0, 0, 0};
+        }
+    }
+};
+
+/// All elements of a pack's objects, by position: whether the positions of `a` and `b` are the same or have no byte in common.
+template <class A, class B> bool positionsApart(const Shaped<A>& a, const Shaped<B>& b, i64 reach)
+{
+    bool apart = true;
+    a.eachElement(0, [&](Address x) {
+        b.eachElement(0, [&](Address y) {
+            apart = apart && (x == y || Extent{x, x + Address(reach)}.disjoint({y, y + Address(reach)}));
+        });
+    });
+    return apart;
+}
+
+template <class View> constexpr bool isList = requires(const View& view) { view.list; };
+template <class View> constexpr bool fixedStep = View::array && !isList<View>;
+
+template <class D> bool resultsApart(const Shaped<D>& dst)
+{
+    constexpr i64 E = sizeof(typename D::element), N = packLanes<typename D::element>;
+    const Extent one = dst.extent(0);
+    const i64 step = dst.view.stride0;
+    if (Address(step) >= one.high - one.low) return true;
+    i32 position = 0, same = 0;  // a table may name one place twice
+    dst.eachElement(0, [&](Address x) {
+        ++position;
+        dst.eachElement(0, [&](Address y) { same += x == y; });
+    });
+    return same == position && positionsApart(dst, dst, (N - 1) * step + E);
+}
+
+template <class D> bool resultsApartIfArray(const Shaped<D>& dst)
+{
+    if constexpr (fixedStep<D>) {
+        return resultsApart(dst);
+    } else {
+        return true;
+    }
+}
+
+template <class D, class S> bool sourceSafe(i32 count, const Shaped<D>& dst, const Shaped<S>& src)
+{
+    constexpr i64 E = sizeof(typename D::element), N = packLanes<typename D::element>;
+    const Extent d = dst.extent(0), s = src.extent(0);
+    const i64 dStep = dst.view.stride0;
+    if constexpr (!S::array) {
+        return d.through((count - 1) * dStep).disjoint(s);
+    } else {
+        const i64 sStep = src.view.stride0;
+        if (d.through((count - 1) * dStep).disjoint(s.through((count - 1) * sStep))) return true;
+        if (sStep != dStep) return false;
+        bool apart = true;
+        for (i64 lag = 1; lag < N; ++lag) apart = apart && d.disjoint(s.shifted(lag * sStep));
+        if (apart) return true;
+        if constexpr (S::code == Code::ca) {
+            return false;
+        } else {
+            return positionsApart(dst, src, (N - 1) * sStep + E);
+        }
+    }
+}
+
+/// Whether nothing that is written is read at another place: the results lie apart from the source as a whole, or exactly on it.
+/// Then no order of the walk can be seen. Lists are not searched: they count as not separate.
+template <class D, class S> bool separate(i32 count, const Shaped<D>& dst, const Shaped<S>& src)
+{
+    if constexpr (S::code == Code::c) {
+        return true;
+    } else if constexpr (isList<D> || isList<S>) {
+        return false;
+    } else {
+        const i64 objects = count - 1, dStep = D::array ? dst.view.stride0 : 0, sStep = S::array ? src.view.stride0 : 0;
+        if (dst.extent(0).through(objects * dStep).disjoint(src.extent(0).through(objects * sStep))) return true;
+        if constexpr (requires { dst.view.table == src.view.table; }) {
+            return dst.view.table == src.view.table && dst.view.shift == src.view.shift && dStep == sStep && !isTransposed(S::code) &&
+                   dst.shape.cols == src.shape.cols;
+        } else if constexpr (requires { dst.view.base == src.view.base; } && S::code != Code::ca) {
+            return dst.view.base == src.view.base && dStep == sStep && dst.view.stride1 == src.view.stride1 &&
+                   dst.view.stride2 == src.view.stride2 && !isTransposed(S::code);
+        } else {
+            return false;
+        }
+    }
+}
+
+/// The list layout: the N objects from i on, each with its own address.
+template <class D, class... S> bool packSafe(i32 i, const Shaped<D>& dst, const Shaped<S>&... src)
+{
+    constexpr int N = packLanes<typename D::element>;
+    Extent d[N];
+    for (int k = 0; k < N; ++k) d[k] = dst.extent(i + k);
+    for (int k = 1; k < N; ++k) {
+        for (int j = 0; j < k; ++j) {
+            if (!d[j].disjoint(d[k])) return false;
+        }
+    }
+    const auto later = [&](const auto& source) {
+        for (int k = 1; k < N; ++k) {
+            const Extent s = source.extent(i + k);
+            for (int j = 0; j < k; ++j) {
+                if (!d[j].disjoint(s)) return false;
+            }
+        }
+        return true;
+    };
+    return (later(src) && ...);
+}
+
+template <class View> constexpr bool isConstant = View::code == Code::c;
+
+/// The guard of a call: guard(i) says whether the pack from object i on may be taken at once. Constants by value are safe.
+template <class D, class... S> auto packGuard(i32 count, const Shaped<D>& dst, const Shaped<S>&... src)
+{
+    const bool enough = count >= packLanes<typename D::element>;
+    const auto ask = [&](auto test, const auto& source) {
+        if constexpr (isConstant<std::decay_t<decltype(source.view)>>) {
+            return true;
+        } else {
+            return test(source);
+        }
+    };
+    if constexpr (fixedStep<D> && ((fixedStep<S> || !S::array) && ...)) {
+        const auto test = [&](const auto& source) { return sourceSafe(count, dst, source); };
+        return [safe = enough && (ask(test, src) && ...) && resultsApart(dst)](i32) { return safe; };
+    } else {
+        return [=](i32 i) {
+            return enough && packSafe(i, dst, src...);
+        };
+    }
+}
+
+/// Walks the objects in ascending order, in packs where the guard allows.
+template <class T, class Guard, class Body> inline void walkGuarded(i32 count, const Guard& guard, Body body)
+{
+    i32 i = 0;
+    for (; i + packLanes<T> <= count; i += packLanes<T>) {
+        if (guard(i)) {
+            body(As<Pack<T>>{}, i);
+        } else {
+            for (int k = 0; k < packLanes<T>; ++k) body(As<T>{}, i + k);
+        }
+    }
+    for (; i < count; ++i) body(As<T>{}, i);
+}
+
+}  // namespace vokm

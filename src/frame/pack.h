@@ -1,0 +1,382 @@
+// Packs: vectors that hold one element of several objects, an object to a lane, and tiles, the elements of one object (or of
+// one pack of objects) in registers. A family writes its arithmetic once over a value type V, which is float or double for
+// one object and a pack otherwise; every lane does exactly the scalar operations in the scalar order.
+//
+// The only places that know the processor's registers are the helpers here.
+#pragma once
+
+#include <cmath>
+#include <cstring>
+
+#include <emmintrin.h>
+
+#include "views.h"
+
+namespace vokm {
+
+template <class T, int N> struct LanesOf {
+    typedef T type __attribute__((vector_size(N * sizeof(T))));
+};
+template <class T> struct LanesOf<T, 1> {
+    using type = T;
+};
+template <class T> constexpr int packLanes = 16 / sizeof(T);
+template <class T> using Pack = typename LanesOf<T, packLanes<T>>::type;
+
+template <class V> constexpr bool isPack = !std::is_floating_point_v<V>;
+template <class V> struct ElementOf {
+    using type = std::decay_t<decltype(std::declval<V>()[0])>;
+};
+template <> struct ElementOf<float> {
+    using type = float;
+};
+template <> struct ElementOf<double> {
+    using type = double;
+};
+template <class V> using Element = typename ElementOf<V>::type;
+template <class V> constexpr int lanesIn = sizeof(V) / sizeof(Element<V>);
+
+template <class V> inline V loadLanes(const Element<V>* from)
+{
+    V v{};
+    std::memcpy(&v, from, sizeof v);
+    return v;
+}
+template <class V> inline void storeLanes(Element<V>* to, V v) { std::memcpy(to, &v, sizeof v); }
+
+template <class V> inline V splat(Element<V> x)
+{
+    if constexpr (isPack<V>) {
+        V v{};
+        for (int k = 0; k < lanesIn<V>; ++k) v[k] = x;
+        return v;
+    } else {
+        return x;
+    }
+}
+
+/// The square root, correctly rounded in the type of each lane.
+inline float root(float x) { return std::sqrt(x); }
+inline double root(double x) { return std::sqrt(x); }
+inline Pack<float> root(Pack<float> x) { return Pack<float>(_mm_sqrt_ps(__m128(x))); }
+inline Pack<double> root(Pack<double> x) { return Pack<double>(_mm_sqrt_pd(__m128d(x))); }
+
+/// The magnitude: the sign bit cleared.
+inline float magnitude(float x) { return std::fabs(x); }
+inline double magnitude(double x) { return std::fabs(x); }
+inline Pack<float> magnitude(Pack<float> x) { return Pack<float>(_mm_andnot_ps(_mm_set1_ps(-0.0f), __m128(x))); }
+inline Pack<double> magnitude(Pack<double> x) { return Pack<double>(_mm_andnot_pd(_mm_set1_pd(-0.0), __m128d(x))); }
+
+/// The root of a 32-bit sum taken in 64 bits and rounded back.
+inline float rootInDouble(float x) { return static_cast<float>(std::sqrt(static_cast<double>(x))); }
+inline double rootInDouble(double x) { return std::sqrt(x); }
+inline Pack<double> rootInDouble(Pack<double> x) { return root(x); }
+inline Pack<float> rootInDouble(Pack<float> x)
+{
+    const __m128 v = __m128(x);
+    const __m128 low = _mm_cvtpd_ps(_mm_sqrt_pd(_mm_cvtps_pd(v)));
+    const __m128 high = _mm_cvtpd_ps(_mm_sqrt_pd(_mm_cvtps_pd(_mm_movehl_ps(v, v))));
+    return Pack<float>(_mm_movelh_ps(low, high));
+}
+
+/// Whether a lane-wise condition holds in every lane, or in any.
+inline bool all(bool condition) { return condition; }
+inline bool any(bool condition) { return condition; }
+template <class M> inline int lanesSet(M mask) { return _mm_movemask_epi8((__m128i)mask); }
+template <class M>
+    requires(sizeof(M) == 16)
+inline bool all(M mask)
+{
+    return lanesSet(mask) == 0xffff;
+}
+template <class M>
+    requires(sizeof(M) == 16)
+inline bool any(M mask)
+{
+    return lanesSet(mask) != 0;
+}
+
+// Runs: elements that follow one another in memory, per object. A Fetch answers for them:
+//   four(lane, k)       a whole register from element k of that lane's object on
+//   pairs(a, b, k)      elements k, k+1 of two objects side by side (32f only)
+//   one(lane, k)        one element
+template <class T> struct Fetch {
+    const T* at[packLanes<T>];
+    Pack<T> four(int lane, int k) const { return loadLanes<Pack<T>>(at[lane] + k); }
+    Pack<float> pairs(int a, int b, int k) const
+    {
+        const __m128 low = _mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(at[a] + k)));
+        return Pack<float>(_mm_loadh_pi(low, reinterpret_cast<const __m64*>(at[b] + k)));
+    }
+    T one(int lane, int k) const { return at[lane][k]; }
+};
+
+/// The products of two runs, formed before they are turned into lanes: half the shuffles.
+template <class T> struct FetchProducts {
+    Fetch<T> a, b;
+    Pack<T> four(int lane, int k) const { return a.four(lane, k) * b.four(lane, k); }
+    Pack<float> pairs(int i, int j, int k) const { return a.pairs(i, j, k) * b.pairs(i, j, k); }
+    T one(int lane, int k) const { return a.one(lane, k) * b.one(lane, k); }
+};
+
+/// K elements of each object of a pack into K lanes vectors. `packed`: the objects follow one another without a gap.
+template <int K, class Source> inline void turnRuns(Pack<float>* to, const Source& from, bool packed)
+{
+    int k = 0;
+    if constexpr (K == 3) {
+        if (packed) {
+            const auto a = from.four(0, 0), b = from.four(0, 4), c = from.four(0, 8);
+            const auto t = __builtin_shufflevector(b, c, 2, 3, 5, 6), u = __builtin_shufflevector(a, b, 1, 2, 4, 5);
+            to[0] = __builtin_shufflevector(a, t, 0, 3, 4, 6);
+            to[1] = __builtin_shufflevector(u, t, 0, 2, 5, 7);
+            to[2] = __builtin_shufflevector(u, c, 1, 3, 4, 7);
+            return;
+        }
+    }
+    for (; k + 4 <= K; k += 4) {
+        const auto a = from.four(0, k), b = from.four(1, k), c = from.four(2, k), d = from.four(3, k);
+        const auto ab = __builtin_shufflevector(a, b, 0, 4, 1, 5), cd = __builtin_shufflevector(c, d, 0, 4, 1, 5);
+        const auto AB = __builtin_shufflevector(a, b, 2, 6, 3, 7), CD = __builtin_shufflevector(c, d, 2, 6, 3, 7);
+        to[k] = __builtin_shufflevector(ab, cd, 0, 1, 4, 5);
+        to[k + 1] = __builtin_shufflevector(ab, cd, 2, 3, 6, 7);
+        to[k + 2] = __builtin_shufflevector(AB, CD, 0, 1, 4, 5);
+        to[k + 3] = __builtin_shufflevector(AB, CD, 2, 3, 6, 7);
+    }
+    if constexpr (K % 4 >= 2) {
+        const auto ab = from.pairs(0, 1, k), cd = from.pairs(2, 3, k);
+        to[k] = __builtin_shufflevector(ab, cd, 0, 2, 4, 6);
+        to[k + 1] = __builtin_shufflevector(ab, cd, 1, 3, 5, 7);
+        k += 2;
+    }
+    if constexpr (K % 2 == 1) to[k] = Pack<float>{from.one(0, k), from.one(1, k), from.one(2, k), from.one(3, k)};
+}
+
+template <int K, class Source> inline void turnRuns(Pack<double>* to, const Source& from, bool)
+{
+    int k = 0;
+    for (; k + 2 <= K; k += 2) {
+        const auto a = from.four(0, k), b = from.four(1, k);
+        to[k] = __builtin_shufflevector(a, b, 0, 2);
+        to[k + 1] = __builtin_shufflevector(a, b, 1, 3);
+    }
+    if constexpr (K % 2 == 1) to[k] = Pack<double>{from.one(0, k), from.one(1, k)};
+}
+
+/// The way back: K lane vectors into the runs of a pack's objects, the objects in ascending order within each block.
+template <int K> inline void turnBack(float* const* at, const Pack<float>* from, bool packed)
+{
+    int k = 0;
+    if constexpr (K == 3) {
+        if (packed) {
+            const auto p = __builtin_shufflevector(from[0], from[1], 0, 2, 4, 6);
+            const auto q = __builtin_shufflevector(from[1], from[2], 1, 3, 5, 7);
+            const auto r = __builtin_shufflevector(from[2], from[0], 0, 2, 5, 7);
+            storeLanes(at[0], __builtin_shufflevector(p, r, 0, 2, 4, 6));
+            storeLanes(at[0] + 4, __builtin_shufflevector(q, p, 0, 2, 5, 7));
+            storeLanes(at[0] + 8, __builtin_shufflevector(r, q, 1, 3, 5, 7));
+            return;
+        }
+    }
+    for (; k + 4 <= K; k += 4) {
+        const auto ab = __builtin_shufflevector(from[k], from[k + 1], 0, 4, 1, 5);
+        const auto cd = __builtin_shufflevector(from[k + 2], from[k + 3], 0, 4, 1, 5);
+        const auto AB = __builtin_shufflevector(from[k], from[k + 1], 2, 6, 3, 7);
+        const auto CD = __builtin_shufflevector(from[k + 2], from[k + 3], 2, 6, 3, 7);
+        storeLanes(at[0] + k, __builtin_shufflevector(ab, cd, 0, 1, 4, 5));
+        storeLanes(at[1] + k, __builtin_shufflevector(ab, cd, 2, 3, 6, 7));
+        storeLanes(at[2] + k, __builtin_shufflevector(AB, CD, 0, 1, 4, 5));
+        storeLanes(at[3] + k, __builtin_shufflevector(AB, CD, 2, 3, 6, 7));
+    }
+    if constexpr (K % 4 >= 2) {
+        const __m128 ab = __m128(__builtin_shufflevector(from[k], from[k + 1], 0, 4, 1, 5));
+        const __m128 cd = __m128(__builtin_shufflevector(from[k], from[k + 1], 2, 6, 3, 7));
+        _mm_storel_pi(reinterpret_cast<__m64*>(at[0] + k), ab);
+        _mm_storeh_pi(reinterpret_cast<__m64*>(at[1] + k), ab);
+        _mm_storel_pi(reinterpret_cast<__m64*>(at[2] + k), cd);
+        _mm_storeh_pi(reinterpret_cast<__m64*>(at[3] + k), cd);
+        k += 2;
+    }
+    if constexpr (K % 2 == 1) {
+        for (int lane = 0; lane < 4; ++lane) at[lane][k] = from[k][lane];
+    }
+}
+
+template <int K> inline void turnBack(double* const* at, const Pack<double>* from, bool)
+{
+    int k = 0;
+    for (; k + 2 <= K; k += 2) {
+        storeLanes(at[0] + k, __builtin_shufflevector(from[k], from[k + 1], 0, 2));
+        storeLanes(at[1] + k, __builtin_shufflevector(from[k], from[k + 1], 1, 3));
+    }
+    if constexpr (K % 2 == 1) {
+        at[0][k] = from[k][0];
+        at[1][k] = from[k][1];
+    }
+}
+
+/// Whether the same element of neighbouring objects is neighbouring in memory: one plane per element.
+template <class View> inline bool planar(const View& view)
+{
+    if constexpr (View::array && requires { view.stride0; }) {
+        return view.stride0 == static_cast<i32>(sizeof(typename View::element));
+    } else {
+        return false;
+    }
+}
+
+/// Whether the objects of K elements follow one another without a gap.
+template <int K, class View> inline bool packedObjects(const View& view)
+{
+    if constexpr (requires { view.stride0; }) {
+        return view.stride0 == K * static_cast<i32>(sizeof(typename View::element));
+    } else {
+        return false;
+    }
+}
+
+/// Stored rows and columns of a logical R x C object.
+template <class View, int R, int C> constexpr int storedRows = isTransposed(View::code) ? C : R;
+template <class View, int R, int C> constexpr int storedCols = isTransposed(View::code) ? R : C;
+
+/// Calls each(row pointers of the lanes, first element in the tile, elements) for the runs of a pack of dense objects: one
+/// run for the whole object if its rows follow one another, else one a row.
+template <int R, int C, class View, class Whole, class ByRow>
+inline void overRuns(const View& view, i32 i, Whole whole, ByRow byRow)
+{
+    using T = typename View::element;
+    constexpr int N = packLanes<std::remove_const_t<T>>;
+    T* at[N];
+    for (int lane = 0; lane < N; ++lane) {
+        if constexpr (isTransposed(View::code)) {
+            at[lane] = &view.object(i + lane, Shape{C, R})(0, 0);
+        } else {
+            at[lane] = &view.object(i + lane, Shape{R, C})(0, 0);
+        }
+    }
+    if (R == 1 || view.stride1 == C * static_cast<i32>(sizeof(T))) return whole(at);
+    for (int r = 0; r < R; ++r) {
+        byRow(at, r);
+        for (int lane = 0; lane < N; ++lane) at[lane] = byBytes(at[lane], view.stride1);
+    }
+}
+
+template <int R, int C, class T, class View> inline void loadStored(Pack<T> (&tile)[R][C], const View& view, i32 i)
+{
+    const auto fetch = [](auto* const* at) {
+        Fetch<T> from;
+        for (int lane = 0; lane < packLanes<T>; ++lane) from.at[lane] = at[lane];
+        return from;
+    };
+    overRuns<R, C>(
+        view, i, [&](auto* const* at) { turnRuns<R * C>(&tile[0][0], fetch(at), packedObjects<R * C>(view)); },
+        [&](auto* const* at, int r) { turnRuns<C>(tile[r], fetch(at), false); });
+}
+
+/// Element (r, c) of the objects of a pack, lane by lane.
+template <class V, class View> inline V gather(const View& view, i32 i, Shape shape, int r, int c)
+{
+    V v{};
+    for (int lane = 0; lane < lanesIn<V>; ++lane) v[lane] = view.object(i + lane, shape)(r, c);
+    return v;
+}
+
+/// Loads object i, or the pack of objects from i on; a single operand goes to every lane.
+template <class V, int R, int C, class View> inline void load(V (&tile)[R][C], const View& view, i32 i)
+{
+    constexpr Shape shape{R, C};
+    if constexpr (!isPack<V> || !View::array) {
+        const auto object = view.object(i, shape);
+        for (int r = 0; r < R; ++r) {
+            for (int c = 0; c < C; ++c) tile[r][c] = splat<V>(object(r, c));
+        }
+    } else if constexpr (View::code == Code::ca) {
+        const V value = gather<V>(view, i, shape, 0, 0);
+        for (int r = 0; r < R; ++r) {
+            for (int c = 0; c < C; ++c) tile[r][c] = value;
+        }
+    } else if (planar(view)) {
+        const auto object = view.object(i, shape);
+        for (int r = 0; r < R; ++r) {
+            for (int c = 0; c < C; ++c) tile[r][c] = loadLanes<V>(&object(r, c));
+        }
+    } else if constexpr (View::dense) {
+        if constexpr (isTransposed(View::code)) {
+            V stored[C][R];
+            loadStored<C, R, Element<V>>(stored, view, i);
+            for (int r = 0; r < R; ++r) {
+                for (int c = 0; c < C; ++c) tile[r][c] = stored[c][r];
+            }
+        } else {
+            loadStored<R, C, Element<V>>(tile, view, i);
+        }
+    } else {
+        for (int r = 0; r < R; ++r) {
+            for (int c = 0; c < C; ++c) tile[r][c] = gather<V>(view, i, shape, r, c);
+        }
+    }
+}
+
+/// Stores object i, or the pack of objects from i on.
+template <class V, int R, int C, class View> inline void store(const V (&tile)[R][C], const View& view, i32 i)
+{
+    constexpr Shape shape{R, C};
+    if constexpr (!isPack<V>) {
+        const auto object = view.object(i, shape);
+        for (int r = 0; r < R; ++r) {
+            for (int c = 0; c < C; ++c) object(r, c) = tile[r][c];
+        }
+    } else if (planar(view)) {
+        const auto object = view.object(i, shape);
+        for (int r = 0; r < R; ++r) {
+            for (int c = 0; c < C; ++c) storeLanes(&object(r, c), tile[r][c]);
+        }
+    } else if constexpr (View::dense) {
+        overRuns<R, C>(
+            view, i, [&](auto* const* at) { turnBack<R * C>(at, &tile[0][0], packedObjects<R * C>(view)); },
+            [&](auto* const* at, int r) { turnBack<C>(at, tile[r], false); });
+    } else {
+        for (int lane = 0; lane < lanesIn<V>; ++lane) {
+            const auto object = view.object(i + lane, shape);
+            for (int r = 0; r < R; ++r) {
+                for (int c = 0; c < C; ++c) object(r, c) = tile[r][c][lane];
+            }
+        }
+    }
+}
+
+/// The products of the elements of two vectors, for object i or the pack from i on.
+template <class V, int n, class A, class B> inline void loadProducts(V (&products)[n], const A& a, const B& b, i32 i)
+{
+    using T = Element<V>;
+    if constexpr (isPack<V> && A::array && B::array && A::dense && B::dense) {
+        if (!planar(a) && !planar(b)) {
+            FetchProducts<T> from;
+            for (int lane = 0; lane < packLanes<T>; ++lane) {
+                from.a.at[lane] = &a.object(i + lane, Shape{1, n})(0, 0);
+                from.b.at[lane] = &b.object(i + lane, Shape{1, n})(0, 0);
+            }
+            return turnRuns<n>(products, from, packedObjects<n>(a) && packedObjects<n>(b));
+        }
+    }
+    V x[1][n], y[1][n];
+    load(x, a, i);
+    load(y, b, i);
+    for (int j = 0; j < n; ++j) products[j] = x[0][j] * y[0][j];
+}
+
+/// Names the value type of a pass over the objects.
+template <class V> struct As {
+    using type = V;
+};
+
+/// Walks the objects in ascending order: body(As<V>, i) for packs as long as there are whole ones (if wanted), then one by one.
+template <class T, class Body> inline void walk(i32 count, bool packs, Body body)
+{
+    i32 i = 0;
+    if (packs) {
+        for (; i + packLanes<T> <= count; i += packLanes<T>) body(As<Pack<T>>{}, i);
+    }
+    for (; i < count; ++i) body(As<T>{}, i);
+}
+
+}  // namespace vokm

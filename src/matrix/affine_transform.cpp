@@ -1,0 +1,63 @@
+// vokmAffineTransform3DH: each point (x, y, z, 1) times a 4x4 matrix, divided by the fourth coordinate.
+//
+//   contiguous   t(r) = (a(r,0)*x + a(r,1)*y) + (a(r,2)*z + a(r,3))
+//   any stride   t(r) = ((a(r,0)*x + a(r,3)) + a(r,1)*y) + a(r,2)*z
+//   dst[j]       t(j) * inv, inv = 1/t(3): one division, three products
+#include "affine_transform.h"
+
+#include <cfloat>
+
+#include "../frame/fixed.h"
+#include "../frame/overlap.h"
+
+namespace vokm {
+
+template <Variant variant, class V, class H> inline V coordinate(const H& a, int r, const V (&p)[1][3])
+{
+    const auto at = [&](int c) { return a.template at<V>(r, c); };
+    if constexpr (variant == Variant::plain) return (at(0) * p[0][0] + at(1) * p[0][1]) + (at(2) * p[0][2] + at(3));
+    return ((at(0) * p[0][0] + at(3)) + at(1) * p[0][1]) + at(2) * p[0][2];
+}
+
+template <Variant variant, class M, class A, class D> vokStatus transform(const M& src1, const A& src2, const D& dst, i32 count)
+{
+    using T = float;
+    const Held<T, 4, 4, M> a(src1, count >= packLanes<T>);
+    vokStatus status = vokStatusOk;
+    // Returns whether every w was large enough; if not, nothing is stored.
+    const auto regular = [&](auto as, i32 i) {
+        using V = typename decltype(as)::type;
+        V p[1][3], d[1][3];
+        load(p, src2, i);
+        const V w = coordinate<variant>(a, 3, p);
+        if (!all(magnitude(w) > splat<V>(FLT_MIN))) return false;
+        const V inv = splat<V>(1.0f) / w;
+        for (int j = 0; j < 3; ++j) d[0][j] = coordinate<variant>(a, j, p) * inv;
+        store(d, dst, i);
+        return true;
+    };
+    const auto one = [&](i32 i) {
+        if (regular(As<T>{}, i)) return;
+        const T largest[1][3] = {{FLT_MAX, FLT_MAX, FLT_MAX}};
+        store(largest, dst, i);
+        status = vokStatusDivideByZero;
+    };
+    const auto guard = packGuard(count, Shaped<D>{dst, {1, 3}}, Shaped<A>{src2, {1, 3}});
+    walkGuarded<T>(count, guard, [&](auto as, i32 i) {
+        using V = typename decltype(as)::type;
+        if constexpr (isPack<V>) {
+            if (regular(as, i)) return;
+            for (int k = 0; k < packLanes<T>; ++k) one(i + k);
+        } else {
+            one(i);
+        }
+    });
+    return status;
+}
+
+}  // namespace vokm
+
+extern "C" {
+AFFINE_FORM(VOKM_DEFINE_TWO)
+AFFINE_FORM(VOKM_EXPORT_ARRAY)
+}

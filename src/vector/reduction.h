@@ -1,0 +1,152 @@
+// Reductions of a vector to a number: the sum of products of two vectors, or the root of the sum of squares of one.
+//
+// The order of each sum is data (Orders below): it differs between kernels, and with it the last bit.
+#pragma once
+
+#include "../frame/fixed.h"
+#include "../frame/overlap.h"
+#include "../frame/sums.h"
+
+namespace vokm {
+
+/// The orders at lengths 3 to 6.
+struct Orders36 {
+    Order at[4];
+    constexpr Order of(int n) const { return at[n - 3]; }
+};
+constexpr Orders36 alike(Order order) { return {{order, order, order, order}}; }
+
+/// Which kernel sums in which order at lengths 3 to 6. At one length the objects of a leading block can have an order of their
+/// own; how far the block reaches is the kernel's to say.
+struct SumRow {
+    Orders36 dense32, dense64, strided, pointers;
+    int blockLength = 0;
+    Order blockOrder = Order::chain;
+
+    template <class T> constexpr Order order(Variant variant, int n) const
+    {
+        if (variant == Variant::P) return pointers.of(n);
+        if (variant == Variant::S2 || variant == Variant::LS2) return strided.of(n);
+        return (sizeof(T) == 4 ? dense32 : dense64).of(n);
+    }
+};
+
+/// The terms of a dot product.
+template <class A, class B> struct Products {
+    static constexpr bool packable = true;
+    A a;
+    B b;
+    template <class V, int n, class H> void fixedTerms(V (&p)[n], const H& held, i32 i) const
+    {
+        if constexpr (B::array) {
+            loadProducts(p, a, b, i);
+        } else {
+            V x[1][n];
+            load(x, a, i);
+            for (int j = 0; j < n; ++j) p[j] = x[0][j] * held.template at<V>(0, j);
+        }
+    }
+    auto term(i32 i, i32 n) const
+    {
+        return [x = a.object(i, Shape{1, n}), y = b.object(i, Shape{1, n})](i32 j) { return x(0, j) * y(0, j); };
+    }
+    template <class T, int n> auto held(bool packs) const { return HeldIfSingle<T, 1, n, B>(b, packs); }
+    template <class D> auto guard(i32 count, const D& dst, i32 n) const
+    {
+        return packGuard(count, Shaped<D>{dst, {1, 1}}, Shaped<A>{a, {1, n}}, Shaped<B>{b, {1, n}});
+    }
+    const auto& lead() const { return b; }  // the operand whose alignment decides the head of a long sum
+};
+
+/// The terms of a norm.
+template <class A> struct Squares {
+    A a;
+    template <class V, int n, class H> void fixedTerms(V (&p)[n], const H&, i32 i) const { loadProducts(p, a, a, i); }
+    auto term(i32 i, i32 n) const
+    {
+        return [x = a.object(i, Shape{1, n})](i32 j) { return x(0, j) * x(0, j); };
+    }
+    template <class T, int n> auto held(bool packs) const { return NothingHeld(a, packs); }
+    template <class D> auto guard(i32 count, const D& dst, i32 n) const
+    {
+        return packGuard(count, Shaped<D>{dst, {1, 1}}, Shaped<A>{a, {1, n}});
+    }
+    const auto& lead() const { return a; }
+};
+
+/// One ascending sum from 0.0.
+template <class T, class Terms> inline T risingSum(const Terms& terms, i32 i, i32 n)
+{
+    const auto p = terms.term(i, n);
+    T s = 0;
+    for (i32 j = 0; j < n; ++j) s = s + p(j);
+    return s;
+}
+
+/// The sum of one long vector with contiguous elements, p[j] = term j, in two accumulators A and B of N = 16 bytes: a head up
+/// to the first 16-byte boundary of the leading operand goes to lane 0 of A, then blocks of 2N, N terms to A and N to B;
+/// the lanes of A + B are joined pairwise, and the rest follows in ascending order. Short or badly aligned: ascending from 0.
+template <class T, class Terms> inline T longSum(const Terms& terms, i32 n)
+{
+    constexpr i32 N = packLanes<T>, block = 2 * N;
+    const auto p = terms.term(0, n);
+    const auto address = reinterpret_cast<std::uintptr_t>(&terms.lead().object(0, Shape{1, n})(0, 0));
+    const i32 head = static_cast<i32>((16 - address % 16) % 16 / sizeof(T));
+    if (address % sizeof(T) != 0 || n < head + block) return risingSum<T>(terms, 0, n);
+    const auto lanes = [&](i32 j) {
+        Pack<T> v{};
+        for (i32 k = 0; k < N; ++k) v[k] = p(j + k);
+        return v;
+    };
+    Pack<T> first{}, second{};
+    for (i32 j = 0; j < head; ++j) first[0] = first[0] + p(j);
+    const i32 end = n - (n - head) % block;
+    for (i32 j = head; j < end; j += block) {
+        first = first + lanes(j);
+        second = second + lanes(j + N);
+    }
+    first = first + second;
+    T s;
+    if constexpr (N == 4) {
+        s = (first[0] + first[1]) + (first[2] + first[3]);
+    } else {
+        s = first[0] + first[1];
+    }
+    for (i32 j = end; j < n; ++j) s = s + p(j);
+    return s;
+}
+
+/// The reductions of `count` vectors of length n. `finish` turns the sum at a fixed length into the result, `finishOther` the
+/// sum at any other; `block` is the number of leading objects that sum in the row's block order at its block length.
+template <const SumRow& row, Variant variant, class T, class Terms, class Finish, class FinishOther, class Other>
+inline vokStatus reduce(const Terms& terms, const Packed<T>& dst, i32 n, i32 count, i32 block, Finish finish,
+                        FinishOther finishOther, Other other)
+{
+    const auto fixed = [&](auto length) -> vokStatus {
+        constexpr int k = decltype(length)::value;
+        constexpr Order order = row.order<T>(variant, k);
+        const StrideView<T, Code::va> results(dst.base, sizeof(T), 0, sizeof(T));
+        const auto guard = terms.guard(count, results, k);
+        const auto held = terms.template held<T, k>(count >= packLanes<T>);
+        walkGuarded<T>(count, guard, [&](auto as, i32 i) {
+            using V = typename decltype(as)::type;
+            V p[k];
+            terms.fixedTerms(p, held, i);
+            V s;
+            if constexpr (k == row.blockLength) {
+                s = i < block ? sum<row.blockOrder>(p) : sum<order>(p);
+            } else {
+                s = sum<order>(p);
+            }
+            storeLanes(dst.base + i, finish(s));
+        });
+        return vokStatusOk;
+    };
+    const auto general = [&]() -> vokStatus {
+        for (i32 i = 0; i < count; ++i) dst.base[i] = finishOther(other(terms, i, n));
+        return vokStatusOk;
+    };
+    return onFixed(n, fixed, general);
+}
+
+}  // namespace vokm

@@ -1,0 +1,9 @@
+// vokmSaxpy: dst = src1*val + src2, the product rounded first.
+#include "saxpy_lcomb.h"
+
+extern "C" {
+SAXPY_FORMS_SINGLE(VOKM_SINGLE_KERNELS)
+SAXPY_FORMS_SINGLE(VOKM_SINGLE_EXPORTS)
+SAXPY_FORMS_ARRAY(VOKM_ARRAY_KERNELS)
+SAXPY_FORMS_ARRAY(VOKM_ARRAY_EXPORTS)
+}

@@ -1,0 +1,9 @@
+// vokmAdd on vectors and constants.
+#include "vector_elementwise.h"
+
+extern "C" {
+VECTOR_ADD_SINGLE(VOKM_SINGLE_KERNELS)
+VECTOR_ADD_SINGLE(VOKM_SINGLE_EXPORTS)
+VECTOR_ADD_ARRAY(VOKM_ARRAY_KERNELS)
+VECTOR_ADD_ARRAY(VOKM_ARRAY_EXPORTS)
+}

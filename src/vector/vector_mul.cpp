@@ -1,0 +1,9 @@
+// vokmMul on vectors and constants.
+#include "vector_elementwise.h"
+
+extern "C" {
+VECTOR_MUL_SINGLE(VOKM_SINGLE_KERNELS)
+VECTOR_MUL_SINGLE(VOKM_SINGLE_EXPORTS)
+VECTOR_MUL_ARRAY(VOKM_ARRAY_KERNELS)
+VECTOR_MUL_ARRAY(VOKM_ARRAY_EXPORTS)
+}
