@@ -12,7 +12,9 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
 add_library(vokm_warnings INTERFACE)
-target_compile_options(vokm_warnings INTERFACE -Wall -Wextra -Wshadow $<$<BOOL:${VOKM_WERROR}>:-Werror>)
+target_compile_options(vokm_warnings INTERFACE -Wall -Wextra -Wshadow
+    $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-Wno-restrict>    # g++ 12 cries wolf over std::string
+    $<$<BOOL:${VOKM_WERROR}>:-Werror>)
 
 add_library(vokm_flags INTERFACE)
 target_link_libraries(vokm_flags INTERFACE vokm_warnings)
