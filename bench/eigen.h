@@ -43,11 +43,11 @@ template <class T> auto run(const void* base, long length) {
 template <class T> auto run(void* base, long length) {
     return Eigen::Map<Eigen::Array<T, Dynamic, 1>, Eigen::AlignedMax>(static_cast<T*>(base), length);
 }
-template <class T, int n> auto table(const void* base, long count) {
-    return Eigen::Map<const Eigen::Matrix<T, n, Dynamic>, Eigen::AlignedMax>(static_cast<const T*>(base), n, count);
+template <class T, int n> auto table(const void* base, long columns, long rows = n) {
+    return Eigen::Map<const Eigen::Matrix<T, n, Dynamic>, Eigen::AlignedMax>(static_cast<const T*>(base), rows, columns);
 }
-template <class T, int n> auto table(void* base, long count) {
-    return Eigen::Map<Eigen::Matrix<T, n, Dynamic>, Eigen::AlignedMax>(static_cast<T*>(base), n, count);
+template <class T, int n> auto table(void* base, long columns, long rows = n) {
+    return Eigen::Map<Eigen::Matrix<T, n, Dynamic>, Eigen::AlignedMax>(static_cast<T*>(base), rows, columns);
 }
 
 // Calls rows<T, n>(add) for both types and the sizes 3 to 6; `Rows` is a function object.
