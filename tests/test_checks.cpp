@@ -14,7 +14,8 @@ struct Fault {
 
 bool endsIn(const std::string& text, const char* part) { return text.find(part) != std::string::npos; }
 
-std::vector<Fault> faultsOf(const Function& function, const Job& job) {
+std::vector<Fault> faultsOf(const Function& function, const Job& job)
+{
     std::vector<Fault> faults;
     int32_t size = function.elementSize();
     for (const Param& param : function.params()) {
@@ -39,7 +40,8 @@ std::vector<Fault> faultsOf(const Function& function, const Job& job) {
     return faults;
 }
 
-void apply(const Fault& fault, Arguments& arguments) {
+void apply(const Fault& fault, Arguments& arguments)
+{
     if (fault.null) {
         arguments.pointers[fault.param] = nullptr;
     } else {
@@ -48,13 +50,15 @@ void apply(const Fault& fault, Arguments& arguments) {
 }
 
 // A fault that the checks let pass may run only where it cannot leave the arena.
-bool harmless(const Fault& fault, int count) {
+bool harmless(const Fault& fault, int count)
+{
     return endsIn(fault.param, "ObjShift") || (endsIn(fault.param, "Stride0") && (count == 1 || fault.value > 0));
 }
 
 class Checks : public GroupTest {
 protected:
-    std::string refusal(Job& job, const std::vector<const Fault*>& faults, int count) {
+    std::string refusal(Job& job, const std::vector<const Fault*>& faults, int count)
+    {
         Arguments good = job.arguments;
         std::string what = job.function.name;
         bool runs = true;
@@ -81,7 +85,8 @@ protected:
     }
 };
 
-TEST_P(Checks, EveryPairOfFaults) {
+TEST_P(Checks, EveryPairOfFaults)
+{
     for (const Function* function : functions()) {
         for (int count : {2, 1}) {
             JobSpec spec;
@@ -101,7 +106,8 @@ TEST_P(Checks, EveryPairOfFaults) {
 }
 
 // Big enough for threads if only it were accepted.
-TEST_P(Checks, RefusedJobAsksForNoThreads) {
+TEST_P(Checks, RefusedJobAsksForNoThreads)
+{
     for (const Function* function : functions()) {
         if (function->work.empty()) {
             continue;
@@ -123,7 +129,8 @@ TEST_P(Checks, RefusedJobAsksForNoThreads) {
 
 INSTANTIATE_TEST_SUITE_P(Form, Checks, testing::ValuesIn(declaredGroups()), groupName);
 
-TEST(Signatures, ArgumentListsFollowTheForms) {
+TEST(Signatures, ArgumentListsFollowTheForms)
+{
     for (auto& [name, declared] : declaredFunctions()) {
         const Function* known = nullptr;
         for (const Function& function : allFunctions()) {
@@ -140,7 +147,8 @@ TEST(Signatures, ArgumentListsFollowTheForms) {
 }
 
 // A family is declared with all its forms, types and layouts or not at all.
-TEST(Signatures, GroupsAreWhole) {
+TEST(Signatures, GroupsAreWhole)
+{
     for (const std::string& group : declaredGroups()) {
         for (const Function& function : allFunctions()) {
             if (function.group() == group) {

@@ -6,7 +6,8 @@
 
 namespace harness {
 
-std::string Pattern::describe() const {
+std::string Pattern::describe() const
+{
     std::ostringstream text;
     text << nest << " unit " << unit << " pad " << pad << " align " << align << " shift " << shift << " seq " << sequence;
     if (roundObject) {
@@ -15,18 +16,21 @@ std::string Pattern::describe() const {
     return text.str();
 }
 
-int64_t Operand::storedOffset(int object, int row, int col) const {
+int64_t Operand::storedOffset(int object, int row, int col) const
+{
     if (isTable()) {
         return places[row * shape.cols + col] + object * stride0;
     }
     return (isList() ? places[object] : base + object * stride0) + row * stride1 + col * stride2;
 }
 
-int64_t Operand::offset(int object, int row, int col) const {
+int64_t Operand::offset(int object, int row, int col) const
+{
     return shape.transposed ? storedOffset(object, col, row) : storedOffset(object, row, col);
 }
 
-int64_t Operand::lay(const Pattern& pattern, Random&) {
+int64_t Operand::lay(const Pattern& pattern, Random&)
+{
     bool dense = spec.kind != ArgKind::object;  // results without strides
     int64_t step = dense ? elementSize : int64_t(pattern.unit) * elementSize;
     for (char loop : dense ? std::string("cro") : pattern.nest) {
@@ -43,7 +47,8 @@ int64_t Operand::lay(const Pattern& pattern, Random&) {
     return (shape.objects - 1) * stride0 + (shape.rows - 1) * stride1 + (shape.cols - 1) * stride2 + elementSize;
 }
 
-void Operand::place(int64_t start, const Pattern& pattern, Random& random) {
+void Operand::place(int64_t start, const Pattern& pattern, Random& random)
+{
     base = start;
     shift = spec.kind == ArgKind::object ? int64_t(pattern.shift) * elementSize : 0;
     int entriesCount = isTable() ? shape.rows * shape.cols : isList() ? shape.objects : 0;
@@ -61,7 +66,8 @@ void Operand::place(int64_t start, const Pattern& pattern, Random& random) {
     }
 }
 
-void Operand::bind(char* live, Arguments& arguments) {
+void Operand::bind(char* live, Arguments& arguments)
+{
     if (isTable() || isList()) {
         entries.clear();
         for (int64_t place : places) {
@@ -79,7 +85,8 @@ void Operand::bind(char* live, Arguments& arguments) {
     }
 }
 
-void Arena::allocate(size_t wanted) {
+void Arena::allocate(size_t wanted)
+{
     bytes = wanted;
     for (int image : {0, 1}) {
         constexpr uintptr_t page = 4096;

@@ -18,12 +18,12 @@ using Random = std::mt19937_64;
 // a row: "cro" is dense, "rco" column by column, "ocr" one plane of memory an element.
 struct Pattern {
     std::string nest = "cro";
-    int unit = 1;           // innermost step, in elements
-    int pad = 0;            // elements added to each outer step
-    int roundObject = 0;    // bytes that stride0 is rounded up to a multiple of
-    int align = 0;          // bytes, address of the first element mod 64
-    int shift = 0;          // objShift in elements
-    char sequence = 'a';    // of tables and lists: a ascending, r reversed, s shuffled
+    int unit = 1;         // innermost step, in elements
+    int pad = 0;          // elements added to each outer step
+    int roundObject = 0;  // bytes that stride0 is rounded up to a multiple of
+    int align = 0;        // bytes, address of the first element mod 64
+    int shift = 0;        // objShift in elements
+    char sequence = 'a';  // of tables and lists: a ascending, r reversed, s shuffled
     std::string describe() const;
 };
 
@@ -36,10 +36,10 @@ struct Operand {
     ArgSpec spec;
     Shape shape;
     int elementSize = 4;
-    int64_t base = 0;                        // offset of the first element in the arena
+    int64_t base = 0;  // offset of the first element in the arena
     int64_t stride0 = 0, stride1 = 0, stride2 = 0;
-    int64_t shift = 0;                       // bytes
-    std::vector<int64_t> places;             // offsets behind a table's or list's entries
+    int64_t shift = 0;            // bytes
+    std::vector<int64_t> places;  // offsets behind a table's or list's entries
     std::vector<char*> entries, entriesBefore;
 
     bool isList() const { return spec.layout == 'L' && spec.array && spec.kind == ArgKind::object; }
@@ -67,21 +67,15 @@ private:
     size_t bytes = 0;
 };
 
-template <class T>
-T load(const char* place) {
+template <class T> T load(const char* place)
+{
     T value;
     std::memcpy(&value, place, sizeof value);
     return value;
 }
 
-template <class T>
-void store(char* place, T value) {
-    std::memcpy(place, &value, sizeof value);
-}
+template <class T> void store(char* place, T value) { std::memcpy(place, &value, sizeof value); }
 
-template <class T>
-bool sameBits(T a, T b) {
-    return (a != a && b != b) || std::memcmp(&a, &b, sizeof a) == 0;
-}
+template <class T> bool sameBits(T a, T b) { return (a != a && b != b) || std::memcmp(&a, &b, sizeof a) == 0; }
 
 }  // namespace harness

@@ -10,7 +10,8 @@ class Parser {
 public:
     Parser(const std::string& formula, const Lookup& value) : text(formula), lookup(value) {}
 
-    int32_t parse() {
+    int32_t parse()
+    {
         int32_t result = conjunction();
         if (at != text.size()) {
             throw std::runtime_error("formula not understood: " + text);
@@ -19,7 +20,8 @@ public:
     }
 
 private:
-    bool accept(const std::string& token) {
+    bool accept(const std::string& token)
+    {
         while (at < text.size() && text[at] == ' ') {
             ++at;
         }
@@ -30,7 +32,8 @@ private:
         return true;
     }
 
-    int32_t conjunction() {
+    int32_t conjunction()
+    {
         int32_t result = comparison();
         while (accept("&&")) {
             int32_t right = comparison();
@@ -39,7 +42,8 @@ private:
         return result;
     }
 
-    int32_t comparison() {
+    int32_t comparison()
+    {
         int32_t left = sum();
         if (accept("==")) {
             return left == sum();
@@ -50,7 +54,8 @@ private:
         return left;
     }
 
-    int32_t sum() {
+    int32_t sum()
+    {
         uint32_t result = product();
         while (true) {
             if (accept("+")) {
@@ -63,7 +68,8 @@ private:
         }
     }
 
-    int32_t product() {
+    int32_t product()
+    {
         uint32_t result = factor();
         while (accept("*")) {
             result *= uint32_t(factor());
@@ -71,7 +77,8 @@ private:
         return int32_t(result);
     }
 
-    int32_t factor() {
+    int32_t factor()
+    {
         if (accept("(")) {
             int32_t result = conjunction();
             accept(")");

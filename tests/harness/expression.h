@@ -13,8 +13,8 @@ using Lookup = std::function<int32_t(const std::string&)>;
 int32_t evaluate(const std::string& formula, const Lookup& value);
 
 // A sum written out, such as "((3+0)+1)+2": digits are terms, + is one rounded addition, left before right.
-template <class T>
-T sumAsWritten(const char*& text, const std::vector<T>& terms) {
+template <class T> T sumAsWritten(const char*& text, const std::vector<T>& terms)
+{
     auto operand = [&]() -> T {
         if (*text != '(') {
             return terms.at(*text++ - '0');

@@ -14,7 +14,8 @@ extern const char* const formsTable;
 
 namespace {
 
-std::vector<std::string> split(const std::string& text, char separator) {
+std::vector<std::string> split(const std::string& text, char separator)
+{
     std::vector<std::string> parts;
     std::stringstream stream(text);
     for (std::string part; std::getline(stream, part, separator);) {
@@ -25,7 +26,8 @@ std::vector<std::string> split(const std::string& text, char separator) {
     return parts;
 }
 
-std::vector<std::string> words(const std::string& text) {
+std::vector<std::string> words(const std::string& text)
+{
     std::stringstream stream(text);
     std::vector<std::string> found;
     for (std::string word; stream >> word;) {
@@ -34,7 +36,8 @@ std::vector<std::string> words(const std::string& text) {
     return found;
 }
 
-std::vector<std::string> codesOf(const std::string& form) {
+std::vector<std::string> codesOf(const std::string& form)
+{
     std::vector<std::string> codes;
     for (char letter : form) {
         if (letter == 'a') {
@@ -46,7 +49,8 @@ std::vector<std::string> codesOf(const std::string& form) {
     return codes;
 }
 
-ArgSpec parseArg(const std::string& token, const std::vector<std::string>& codes, bool array) {
+ArgSpec parseArg(const std::string& token, const std::vector<std::string>& codes, bool array)
+{
     ArgSpec arg;
     size_t end = token.find_first_of("=:[{");
     arg.name = arg.prefix = token.substr(0, end);
@@ -66,9 +70,8 @@ ArgSpec parseArg(const std::string& token, const std::vector<std::string>& codes
         arg.array = letters.size() > 1;
         arg.kind = letters == "c" ? ArgKind::real : ArgKind::object;
     } else {
-        static const std::map<char, ArgKind> kinds = {
-            {'v', ArgKind::object}, {'m', ArgKind::object},  {'s', ArgKind::scalars}, {'n', ArgKind::packed},
-            {'i', ArgKind::indices}, {'b', ArgKind::scratch}, {'r', ArgKind::real}};
+        static const std::map<char, ArgKind> kinds = {{'v', ArgKind::object}, {'m', ArgKind::object}, {'s', ArgKind::scalars},
+            {'n', ArgKind::packed}, {'i', ArgKind::indices}, {'b', ArgKind::scratch}, {'r', ArgKind::real}};
         arg.letter = code;
         arg.kind = kinds.at(code);
     }
@@ -87,7 +90,8 @@ struct Table {
     std::vector<Function> functions;
     std::map<std::string, size_t> index;
 
-    Table() {
+    Table()
+    {
         for (const std::string& line : split(formsTable, '\n')) {
             if (line.empty()) {
                 continue;
@@ -103,7 +107,8 @@ struct Table {
         }
     }
 
-    std::string expand(const std::string& arguments) const {
+    std::string expand(const std::string& arguments) const
+    {
         std::string result;
         for (const std::string& word : words(arguments)) {
             result += (word[0] == '@' ? expand(shorthands.at(word)) : word) + " ";
@@ -111,7 +116,8 @@ struct Table {
         return result;
     }
 
-    void addRow(std::vector<std::string> cells) {
+    void addRow(std::vector<std::string> cells)
+    {
         cells.resize(7);
         for (const std::string& family : words(cells[0])) {
             for (const std::string& form : words(cells[1])) {
@@ -128,7 +134,8 @@ struct Table {
     }
 
     void addFunction(const std::string& family, const std::string& form, const std::string& type, const std::string& order,
-                     const std::vector<std::string>& cells) {
+        const std::vector<std::string>& cells)
+    {
         Function f;
         f.family = family;
         f.form = form;
@@ -153,7 +160,8 @@ struct Table {
         functions.push_back(f);
     }
 
-    static void setLimits(Function& f, const std::string& work, const std::string& limits) {
+    static void setLimits(Function& f, const std::string& work, const std::string& limits)
+    {
         if (work.empty()) {
             return;
         }
@@ -166,7 +174,8 @@ struct Table {
         f.limitStrided = std::stoi(byStride.back());
     }
 
-    static void setTraits(Function& f, const std::string& traits) {
+    static void setTraits(Function& f, const std::string& traits)
+    {
         f.kernels = "usual";
         std::vector<std::string> list = words(traits);
         for (size_t i = 0; i < list.size(); ++i) {
@@ -182,7 +191,8 @@ struct Table {
         }
     }
 
-    void depart(const std::vector<std::string>& departure) {
+    void depart(const std::vector<std::string>& departure)
+    {
         Function& f = functions.at(index.at(departure.at(0)));
         if (departure[1] == "order") {
             f.order = departure.at(2);
@@ -194,19 +204,22 @@ struct Table {
     }
 };
 
-const Table& table() {
+const Table& table()
+{
     static const Table built;
     return built;
 }
 
-bool endsWith(const std::string& text, const std::string& end) {
+bool endsWith(const std::string& text, const std::string& end)
+{
     return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
 }
 
-Lookup lookupIn(const std::map<std::string, int32_t>& integers) {
+Lookup lookupIn(const std::map<std::string, int32_t>& integers)
+{
     return [&integers](const std::string& name) {
-        static const std::map<std::string, std::string> shortNames = {{"n", "widthHeight"}, {"w1", "src1Width"},
-            {"h1", "src1Height"}, {"w2", "src2Width"}, {"h2", "src2Height"}};
+        static const std::map<std::string, std::string> shortNames = {
+            {"n", "widthHeight"}, {"w1", "src1Width"}, {"h1", "src1Height"}, {"w2", "src2Width"}, {"h2", "src2Height"}};
         auto known = shortNames.find(name);
         return integers.at(known == shortNames.end() ? name : known->second);
     };
@@ -217,7 +230,8 @@ class Checks {
 public:
     Checks(const Function& f, const Arguments& a) : function(f), arguments(a) {}
 
-    int32_t firstFault() const {
+    int32_t firstFault() const
+    {
         for (size_t i = 0; i < function.order.size(); ++i) {
             char part = i + 1 < function.order.size() && std::isdigit(function.order[i + 1]) ? function.order[i + 1] : '0';
             if (std::isdigit(function.order[i])) {
@@ -231,25 +245,27 @@ public:
     }
 
 private:
-    int32_t fault(char step, char part) const {
+    int32_t fault(char step, char part) const
+    {
         switch (step) {
-            case 'N': return anyNull() ? -8 : 0;
-            case 'C': return arguments.integers.at("count") < 1 ? -203 : 0;
-            case 'Z': return anyInteger(part, &Checks::isSize, [](int32_t v) { return v < 1; }) ? -6 : 0;
-            case 'M': return evaluate(function.match, lookupIn(arguments.integers)) ? 0 : -204;
-            case 'S': return anyInteger(part, &Checks::isStride, strideTest()) ? -182 : 0;
-            case 's': return arguments.integers.at("count") > 1 && anyInteger(part, &Checks::isStride0, strideTest()) ? -182 : 0;
-            case 'O': return anyInteger(part, &Checks::isShift, shiftTest()) ? -202 : 0;
+        case 'N': return anyNull() ? -8 : 0;
+        case 'C': return arguments.integers.at("count") < 1 ? -203 : 0;
+        case 'Z': return anyInteger(part, &Checks::isSize, [](int32_t v) { return v < 1; }) ? -6 : 0;
+        case 'M': return evaluate(function.match, lookupIn(arguments.integers)) ? 0 : -204;
+        case 'S': return anyInteger(part, &Checks::isStride, strideTest()) ? -182 : 0;
+        case 's': return arguments.integers.at("count") > 1 && anyInteger(part, &Checks::isStride0, strideTest()) ? -182 : 0;
+        case 'O': return anyInteger(part, &Checks::isShift, shiftTest()) ? -202 : 0;
         }
         throw std::runtime_error("unknown step in " + function.order);
     }
 
-    bool anyNull() const {
+    bool anyNull() const
+    {
         return std::any_of(arguments.pointers.begin(), arguments.pointers.end(), [](auto& p) { return p.second == nullptr; });
     }
 
-    template <class Test>
-    bool anyInteger(char part, bool (Checks::*concerns)(const std::string&) const, Test bad) const {
+    template <class Test> bool anyInteger(char part, bool (Checks::*concerns)(const std::string&) const, Test bad) const
+    {
         return std::any_of(arguments.integers.begin(), arguments.integers.end(), [&](auto& entry) {
             bool ofSource = entry.first.rfind("src", 0) == 0;
             bool inPart = part == '0' || ofSource == (part == '1');
@@ -257,23 +273,27 @@ private:
         });
     }
 
-    std::function<bool(int32_t)> strideTest() const {
+    std::function<bool(int32_t)> strideTest() const
+    {
         int32_t size = function.elementSize();
         return [size](int32_t v) { return v % size != 0 || v < 1; };
     }
-    std::function<bool(int32_t)> shiftTest() const {
+    std::function<bool(int32_t)> shiftTest() const
+    {
         int32_t size = function.elementSize();
         return [size](int32_t v) { return v % size != 0 || v < 0; };
     }
 
     bool isStride0(const std::string& name) const { return endsWith(name, "Stride0"); }
-    bool isStride(const std::string& name) const {
+    bool isStride(const std::string& name) const
+    {
         bool testedLater = function.order.find('s') != std::string::npos && isStride0(name);
         bool left = std::count(function.untested.begin(), function.untested.end(), name) != 0;
         return name.find("Stride") != std::string::npos && !testedLater && !left;
     }
     bool isShift(const std::string& name) const { return endsWith(name, "ObjShift"); }
-    bool isSize(const std::string& name) const {
+    bool isSize(const std::string& name) const
+    {
         return name.find("Stride") == std::string::npos && !isShift(name) && name != "count";
     }
 
@@ -283,11 +303,13 @@ private:
 
 }  // namespace
 
-const ArgSpec& Function::arg(const std::string& argName) const {
+const ArgSpec& Function::arg(const std::string& argName) const
+{
     return *std::find_if(args.begin(), args.end(), [&](const ArgSpec& a) { return a.name == argName; });
 }
 
-std::vector<Param> Function::params() const {
+std::vector<Param> Function::params() const
+{
     std::vector<Param> list;
     ParamClass real = isDouble ? ParamClass::real : ParamClass::single;
     for (const ArgSpec& arg : args) {
@@ -313,7 +335,8 @@ std::vector<Param> Function::params() const {
 
 const std::vector<Function>& allFunctions() { return table().functions; }
 
-std::vector<std::string> declaredGroups() {
+std::vector<std::string> declaredGroups()
+{
     std::vector<std::string> groups;
     std::set<std::string> seen;
     for (const Function& f : allFunctions()) {
@@ -324,7 +347,8 @@ std::vector<std::string> declaredGroups() {
     return groups;
 }
 
-std::vector<const Function*> functionsOf(const std::string& group) {
+std::vector<const Function*> functionsOf(const std::string& group)
+{
     std::vector<const Function*> found;
     for (const Function& f : allFunctions()) {
         if (f.group() == group && isDeclared(f.name)) {
@@ -336,21 +360,21 @@ std::vector<const Function*> functionsOf(const std::string& group) {
 
 const Function& functionNamed(const std::string& name) { return table().functions.at(table().index.at(name)); }
 
-int32_t expectedRefusal(const Function& function, const Arguments& arguments) {
-    return Checks(function, arguments).firstFault();
-}
+int32_t expectedRefusal(const Function& function, const Arguments& arguments) { return Checks(function, arguments).firstFault(); }
 
-int32_t workValue(const Function& function, const std::map<std::string, int32_t>& integers) {
+int32_t workValue(const Function& function, const std::map<std::string, int32_t>& integers)
+{
     return evaluate(function.work, lookupIn(integers));
 }
 
-bool isDense(const Function& function, const std::map<std::string, int32_t>& integers) {
-    return std::all_of(integers.begin(), integers.end(), [&](auto& entry) {
-        return !endsWith(entry.first, "Stride2") || entry.second == function.elementSize();
-    });
+bool isDense(const Function& function, const std::map<std::string, int32_t>& integers)
+{
+    return std::all_of(integers.begin(), integers.end(),
+        [&](auto& entry) { return !endsWith(entry.first, "Stride2") || entry.second == function.elementSize(); });
 }
 
-bool wantsThreads(const Function& function, const std::map<std::string, int32_t>& integers) {
+bool wantsThreads(const Function& function, const std::map<std::string, int32_t>& integers)
+{
     if (!function.wrapper) {
         return false;
     }

@@ -23,7 +23,7 @@ struct ArgSpec {
     std::string name;
     std::string prefix;  // of its strides and shift; differs from the name in a few eigenproblem forms
     ArgKind kind = ArgKind::integer;
-    char letter = 0;     // v m t c
+    char letter = 0;  // v m t c
     char layout = 'S';
     bool array = false;
     bool written = false;
@@ -44,7 +44,7 @@ struct Function {
     int limitDense = 0, limitStrided = 0;
     bool wrapper = false;
     bool mergesStatus = false;
-    std::string kernels;                // "usual", "one" (any stride2), "none"
+    std::string kernels;  // "usual", "one" (any stride2), "none"
 
     int elementSize() const { return isDouble ? 8 : 4; }
     const char* type() const { return isDouble ? "64f" : "32f"; }
@@ -55,7 +55,7 @@ struct Function {
 };
 
 const std::vector<Function>& allFunctions();
-std::vector<std::string> declaredGroups();                        // "vokmAdd_vav", those in the header, in table order
+std::vector<std::string> declaredGroups();                           // "vokmAdd_vav", those in the header, in table order
 std::vector<const Function*> functionsOf(const std::string& group);  // those in the header
 const Function& functionNamed(const std::string& name);
 

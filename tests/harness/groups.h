@@ -11,7 +11,8 @@ protected:
     std::vector<const Function*> functions() const { return functionsOf(GetParam()); }
 
     // Reports a problem, if it is one; false once there are so many that more would not help.
-    bool report(const std::string& problem) {
+    bool report(const std::string& problem)
+    {
         if (!problem.empty() && ++problems <= 5) {
             ADD_FAILURE() << problem;
         }
@@ -22,12 +23,14 @@ private:
     int problems = 0;
 };
 
-inline std::string groupName(const testing::TestParamInfo<std::string>& info) {
+inline std::string groupName(const testing::TestParamInfo<std::string>& info)
+{
     return info.param.back() == '-' ? info.param.substr(0, info.param.size() - 2) : info.param;
 }
 
 // The seed of a function's draws: the same on every run and machine.
-inline uint64_t seedOf(const Function& function, uint64_t salt) {
+inline uint64_t seedOf(const Function& function, uint64_t salt)
+{
     uint64_t seed = 1469598103934665603u + salt;
     for (char letter : function.name) {
         seed = (seed ^ uint64_t(static_cast<unsigned char>(letter))) * 1099511628211u;

@@ -10,55 +10,61 @@
 namespace harness {
 namespace {
 
-std::map<std::string, const Oracle*>& oracles() {
+std::map<std::string, const Oracle*>& oracles()
+{
     static std::map<std::string, const Oracle*> known;
     return known;
 }
 
-int count(const JobSpec& spec) {
+int count(const JobSpec& spec)
+{
     auto found = spec.sizes.find("count");
     return found == spec.sizes.end() ? 1 : found->second;
 }
 
-template <class T>
-T ordinaryValue(Random& random) {
+template <class T> T ordinaryValue(Random& random)
+{
     // Full mantissas and mixed exponents: a sum in another order nearly always has other bits.
     std::uniform_real_distribution<double> mantissa(1.0, 2.0);
     double value = std::ldexp(mantissa(random), int(random() % 7) - 3);
     return T(random() % 2 ? value : -value);
 }
 
-template <class T>
-T specialValue(Random& random) {
+template <class T> T specialValue(Random& random)
+{
     using Limits = std::numeric_limits<T>;
-    const T pool[] = {T(0), -T(0), T(1), T(-1), Limits::infinity(), -Limits::infinity(), Limits::quiet_NaN(), Limits::denorm_min(),
-        Limits::min(), Limits::max(), -Limits::max(), std::sqrt(Limits::max()), std::sqrt(Limits::min()), Limits::min() / 8};
+    const T pool[] = {T(0), -T(0), T(1), T(-1), Limits::infinity(), -Limits::infinity(), Limits::quiet_NaN(),
+        Limits::denorm_min(), Limits::min(), Limits::max(), -Limits::max(), std::sqrt(Limits::max()), std::sqrt(Limits::min()),
+        Limits::min() / 8};
     return random() % 3 ? ordinaryValue<T>(random) : pool[random() % (sizeof pool / sizeof pool[0])];
 }
 
-template <class T>
-T someValue(Values kind, Random& random) {
+template <class T> T someValue(Values kind, Random& random)
+{
     switch (kind) {
-        case Values::special: return specialValue<T>(random);
-        case Values::zeros: return random() % 3 ? (random() % 2 ? T(0) : -T(0)) : ordinaryValue<T>(random);
-        default: return ordinaryValue<T>(random);
+    case Values::special: return specialValue<T>(random);
+    case Values::zeros: return random() % 3 ? (random() % 2 ? T(0) : -T(0)) : ordinaryValue<T>(random);
+    default: return ordinaryValue<T>(random);
     }
 }
 
 }  // namespace
 
-Oracle::Oracle(const std::vector<std::string>& groups, Single f, Double d) : single(f), real(d) {
+Oracle::Oracle(const std::vector<std::string>& groups, Single f, Double d, Prepare p) : single(f), real(d), prepare(p)
+{
     for (const std::string& group : groups) {
         oracles()[group] = this;
     }
 }
 
-const Oracle* Oracle::find(const std::string& group) {
+const Oracle* Oracle::find(const std::string& group)
+{
     auto found = oracles().find(group);
     return found == oracles().end() ? nullptr : found->second;
 }
 
-Job::Job(const Function& described, const JobSpec& wanted) : function(described), spec(wanted) {
+Job::Job(const Function& described, const JobSpec& wanted) : function(described), spec(wanted)
+{
     Random random(spec.seed * 0x9E3779B97F4A7C15u + 1);
     arguments.integers = spec.sizes;
     layOut(random);
@@ -68,7 +74,8 @@ Job::Job(const Function& described, const JobSpec& wanted) : function(described)
     kernel = layout == 'P' ? "_P" : layout == 'L' ? (dense ? "_L" : "_LS2") : (dense ? "" : "_S2");
 }
 
-void Job::layOut(Random& random) {
+void Job::layOut(Random& random)
+{
     const int64_t gap = spec.gap;
     int64_t end = gap;
     auto size = [this](const std::string& name) { return arguments.integers.at(name == "n" ? "widthHeight" : name); };
@@ -109,17 +116,22 @@ void Job::layOut(Random& random) {
     arguments.integers = declared;
 }
 
-void Job::fill(Random& random) {
+void Job::fill(Random& random)
+{
     if (function.isDouble) {
         fillAs<double>(random);
     } else {
         fillAs<float>(random);
     }
     arena.copyToModel();
+    const Oracle* oracle = Oracle::find(function.group());
+    if (oracle && oracle->prepare) {
+        oracle->prepare(*this, random);
+    }
 }
 
-template <class T>
-void Job::fillAs(Random& random) {
+template <class T> void Job::fillAs(Random& random)
+{
     for (size_t i = 0; i < arena.size(); ++i) {
         arena.live()[i] = char(0xA0 + i % 61);
     }
@@ -143,21 +155,22 @@ void Job::fillAs(Random& random) {
     }
 }
 
-bool Job::goesParallel() const {
+bool Job::goesParallel() const
+{
     return wantsThreads(function, arguments.integers) && spec.threads > 1 && count(spec) >= spec.threads;
 }
 
-int Job::expectedQuestions() const {
-    return !wantsThreads(function, arguments.integers) ? 0 : goesParallel() ? 2 : 1;
-}
+int Job::expectedQuestions() const { return !wantsThreads(function, arguments.integers) ? 0 : goesParallel() ? 2 : 1; }
 
-int32_t Job::runLibrary() {
+int32_t Job::runLibrary()
+{
     setThreads(spec.threads, spec.laterThreads);
     return call(function.name, arguments);
 }
 
 // Adds each status that the call may return; the return value is that of the only or first share that failed.
-int32_t Job::runModel(std::set<int32_t>& acceptable) {
+int32_t Job::runModel(std::set<int32_t>& acceptable)
+{
     const Oracle* oracle = Oracle::find(function.group());
     if (!oracle) {
         throw std::runtime_error("no oracle for " + function.group());
@@ -167,8 +180,8 @@ int32_t Job::runModel(std::set<int32_t>& acceptable) {
     int share = count(spec) / team, rest = count(spec) % team, start = 0;
     for (int t = 0; t < team; ++t) {
         int n = share + (t < rest);
-        int32_t status = function.isDouble ? oracle->real(Model<double>(*this), start, n)
-                                           : oracle->single(Model<float>(*this), start, n);
+        int32_t status =
+            function.isDouble ? oracle->real(Model<double>(*this), start, n) : oracle->single(Model<float>(*this), start, n);
         start += n;
         if (status != 0 && (function.mergesStatus || team == 1)) {
             acceptable.insert(status);
@@ -180,7 +193,8 @@ int32_t Job::runModel(std::set<int32_t>& acceptable) {
     return *acceptable.begin();
 }
 
-std::string Job::check() {
+std::string Job::check()
+{
     std::ostringstream problem;
     int32_t status = runLibrary();
     int questions = threadQuestions();
@@ -196,7 +210,8 @@ std::string Job::check() {
     return problem.str().empty() ? "" : describe() + ": " + problem.str();
 }
 
-std::string Job::describe() const {
+std::string Job::describe() const
+{
     std::ostringstream text;
     text << function.name << " kernel" << (kernel.empty() ? " plain" : " " + kernel) << " (";
     for (auto& [name, value] : spec.sizes) {
@@ -209,7 +224,8 @@ std::string Job::describe() const {
     return text.str();
 }
 
-std::string Job::differences() {
+std::string Job::differences()
+{
     for (const std::string& name : laid) {
         const Operand& operand = operands.at(name);
         if (operand.entries != operand.entriesBefore) {
@@ -220,8 +236,8 @@ std::string Job::differences() {
 }
 
 // Not-a-numbers of any payload count as equal, in elements that are results; scratch is free.
-template <class T>
-void Job::forgiveNaN() {
+template <class T> void Job::forgiveNaN()
+{
     for (const std::string& name : laid) {
         const Operand& operand = operands.at(name);
         if (!operand.spec.written || operand.spec.kind == ArgKind::indices) {
@@ -239,8 +255,8 @@ void Job::forgiveNaN() {
     }
 }
 
-template <class T>
-std::string Job::differencesAs() {
+template <class T> std::string Job::differencesAs()
+{
     forgiveNaN<T>();
     if (std::memcmp(arena.live(), arena.model(), arena.size()) == 0) {
         return "";
@@ -258,7 +274,8 @@ std::string Job::differencesAs() {
     return text.str();
 }
 
-std::string Job::owner(int64_t offset) const {
+std::string Job::owner(int64_t offset) const
+{
     std::ostringstream text;
     for (const std::string& name : laid) {
         const Operand& operand = operands.at(name);
@@ -278,7 +295,8 @@ std::string Job::owner(int64_t offset) const {
     return text.str();
 }
 
-std::map<std::string, int32_t> equalSizes(const Function& function, int n, int count) {
+std::map<std::string, int32_t> equalSizes(const Function& function, int n, int count)
+{
     std::map<std::string, int32_t> sizes;
     for (const ArgSpec& arg : function.args) {
         if (arg.kind == ArgKind::integer) {

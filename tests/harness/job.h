@@ -15,8 +15,8 @@ namespace harness {
 enum class Values { ordinary, special, zeros };
 
 struct JobSpec {
-    std::map<std::string, int32_t> sizes;        // the function's integer arguments, count included
-    std::map<std::string, Pattern> patterns;     // by operand; "" for all others
+    std::map<std::string, int32_t> sizes;                            // the function's integer arguments, count included
+    std::map<std::string, Pattern> patterns;                         // by operand; "" for all others
     std::map<std::string, std::pair<std::string, int64_t>> overlay;  // operand -> (operand laid before it, bytes from its start)
     Values values = Values::ordinary;
     int threads = 1;
@@ -28,8 +28,7 @@ struct JobSpec {
 class Job;
 
 // What an evaluation sees: its operands in the model image, objects counted from the start of the whole array.
-template <class T>
-class View {
+template <class T> class View {
 public:
     View(char* imageStart, const Operand& described) : image(imageStart), operand(described) {}
     T get(int object, int row, int col) const { return load<T>(at(object, row, col)); }
@@ -51,11 +50,13 @@ private:
     const Operand& operand;
 };
 
-template <class T>
-class Model {
+template <class T> class Model {
 public:
     explicit Model(Job& described) : job(described) {}
     View<T> view(const std::string& name) const;
+    View<int32_t> indices(const std::string& name) const;  // pivots and other integers
+    // The library's own result, for sums whose order is free.
+    View<T> answer(const std::string& name) const;
     int size(const std::string& name) const;
     T real(const std::string& name) const;
     const Function& function() const;
@@ -70,10 +71,14 @@ private:
 struct Oracle {
     using Single = int32_t (*)(const Model<float>&, int first, int n);
     using Double = int32_t (*)(const Model<double>&, int first, int n);
-    Oracle(const std::vector<std::string>& groups, Single f, Double d);
+    // Turns the random sources into ones that suit the family (Job::put): factors with their pivots, definite matrices, and
+    // among them objects that fail. Called after the filling; may leave the job as it is, so that any input occurs.
+    using Prepare = void (*)(Job& job, Random& random);
+    Oracle(const std::vector<std::string>& groups, Single f, Double d, Prepare p = nullptr);
     static const Oracle* find(const std::string& group);
     Single single;
     Double real;
+    Prepare prepare;
 };
 
 class Job {
@@ -89,6 +94,13 @@ public:
     std::string differences();
     std::string describe() const;
     bool goesParallel() const;
+    // Puts a value of the caller's choice into an operand, in both images.
+    template <class T> void put(const std::string& name, int object, int row, int col, T value)
+    {
+        for (char* image : {arena.live(), arena.model()}) {
+            store<T>(image + operands.at(name).offset(object, row, col), value);
+        }
+    }
     int expectedQuestions() const;
 
     const Function& function;
@@ -111,8 +123,17 @@ private:
 // The defaults of a size argument for searches and walks: every size n, agreeing ones agree.
 std::map<std::string, int32_t> equalSizes(const Function& function, int n, int count);
 
-template <class T> View<T> Model<T>::view(const std::string& name) const {
+template <class T> View<T> Model<T>::view(const std::string& name) const
+{
     return View<T>(job.arena.model(), job.operands.at(name));
+}
+template <class T> View<int32_t> Model<T>::indices(const std::string& name) const
+{
+    return View<int32_t>(job.arena.model(), job.operands.at(name));
+}
+template <class T> View<T> Model<T>::answer(const std::string& name) const
+{
+    return View<T>(job.arena.live(), job.operands.at(name));
 }
 template <class T> int Model<T>::size(const std::string& name) const { return job.arguments.integers.at(name); }
 template <class T> T Model<T>::real(const std::string& name) const { return T(job.arguments.reals.at(name)); }

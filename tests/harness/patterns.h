@@ -16,5 +16,7 @@ Pattern drawPattern(Style style, int elementSize, Random& random);
 // A pattern of its own for each operand; only styles and seeds decide, so a failure can be drawn again.
 void drawPatterns(JobSpec& spec, const Function& function, Style style, Random& random);
 Style drawStyle(Random& random);
+// Sizes that agree with each other, count included; emphasis on 3 to 6, long ones for single vectors.
+std::map<std::string, int32_t> drawSizes(const Function& function, Random& random);
 
 }  // namespace harness

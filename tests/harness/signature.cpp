@@ -3,6 +3,7 @@
 #include <dlfcn.h>
 #include <ffi.h>
 
+#include <algorithm>
 #include <fstream>
 #include <regex>
 #include <sstream>
@@ -11,22 +12,26 @@
 namespace harness {
 namespace {
 
-std::string readWithoutComments(const std::string& path) {
+std::string readWithoutComments(const std::string& path)
+{
     std::ifstream file(path);
     if (!file) {
         throw std::runtime_error("cannot read " + path);
     }
     std::stringstream content;
     content << file.rdbuf();
-    std::string text = content.str();
-    for (size_t start; (start = text.find("/*")) != std::string::npos;) {
+    std::string text = content.str(), code;
+    for (size_t from = 0; from < text.size();) {
+        size_t start = std::min(text.find("/*", from), text.size());
+        code += text.substr(from, start - from) + " ";
         size_t end = text.find("*/", start);
-        text.replace(start, end - start + 2, " ");
+        from = end == std::string::npos ? text.size() : end + 2;
     }
-    return std::regex_replace(text, std::regex("//[^\n]*"), " ");
+    return std::regex_replace(code, std::regex("//[^\n]*"), " ");
 }
 
-Param parseParam(const std::string& text) {
+Param parseParam(const std::string& text)
+{
     static const std::regex shape("^\\s*(.*[\\s*])(\\w+)\\s*$");
     std::smatch match;
     if (!std::regex_match(text, match, shape)) {
@@ -43,7 +48,8 @@ Param parseParam(const std::string& text) {
     return {match[2], holds("float") ? ParamClass::single : ParamClass::real};
 }
 
-std::map<std::string, Signature> parseHeaders() {
+std::map<std::string, Signature> parseHeaders()
+{
     std::string root = VOKM_INCLUDE_DIR;
     std::string chief = readWithoutComments(root + "/vokm");
     std::string text = chief;
@@ -70,14 +76,15 @@ struct Callable {
     std::vector<ffi_type*> types;
 };
 
-Callable& callable(const std::string& function) {
+Callable& callable(const std::string& function)
+{
     static std::map<std::string, Callable> known;
     Callable& entry = known[function];
     if (entry.address) {
         return entry;
     }
     for (const Param& param : declaredFunctions().at(function)) {
-        entry.types.push_back(param.kind == ParamClass::pointer  ? &ffi_type_pointer
+        entry.types.push_back(param.kind == ParamClass::pointer   ? &ffi_type_pointer
                               : param.kind == ParamClass::integer ? &ffi_type_sint32
                               : param.kind == ParamClass::single  ? &ffi_type_float
                                                                   : &ffi_type_double);
@@ -102,14 +109,16 @@ union Slot {
 
 }  // namespace
 
-const std::map<std::string, Signature>& declaredFunctions() {
+const std::map<std::string, Signature>& declaredFunctions()
+{
     static const std::map<std::string, Signature> functions = parseHeaders();
     return functions;
 }
 
 bool isDeclared(const std::string& name) { return declaredFunctions().count(name) != 0; }
 
-int32_t call(const std::string& function, const Arguments& arguments) {
+int32_t call(const std::string& function, const Arguments& arguments)
+{
     Callable& target = callable(function);
     const Signature& signature = declaredFunctions().at(function);
     std::vector<Slot> slots(signature.size());
@@ -118,10 +127,10 @@ int32_t call(const std::string& function, const Arguments& arguments) {
         const std::string& name = signature[i].name;
         try {
             switch (signature[i].kind) {
-                case ParamClass::pointer: slots[i].pointer = arguments.pointers.at(name); break;
-                case ParamClass::integer: slots[i].integer = arguments.integers.at(name); break;
-                case ParamClass::single: slots[i].single = float(arguments.reals.at(name)); break;
-                case ParamClass::real: slots[i].real = arguments.reals.at(name); break;
+            case ParamClass::pointer: slots[i].pointer = arguments.pointers.at(name); break;
+            case ParamClass::integer: slots[i].integer = arguments.integers.at(name); break;
+            case ParamClass::single: slots[i].single = float(arguments.reals.at(name)); break;
+            case ParamClass::real: slots[i].real = arguments.reals.at(name); break;
             }
         } catch (const std::out_of_range&) {
             throw std::runtime_error(function + ": argument " + name + " is not set");

@@ -13,7 +13,8 @@ using Point = std::array<float, 3>;
 
 Point read(const View<float>& src, int i) { return {src.get(i, 0), src.get(i, 1), src.get(i, 2)}; }
 
-std::array<float, 4> transform(const float (&a)[4][4], const Point& p, bool dense) {
+std::array<float, 4> transform(const float (&a)[4][4], const Point& p, bool dense)
+{
     std::array<float, 4> t;
     for (int r = 0; r < 4; ++r) {
         float x = a[r][0] * p[0], y = a[r][1] * p[1], z = a[r][2] * p[2], d = a[r][3];
@@ -29,7 +30,8 @@ std::array<float, 4> transform(const float (&a)[4][4], const Point& p, bool dens
     return t;
 }
 
-int32_t run(const Model<float>& m, int first, int n) {
+int32_t run(const Model<float>& m, int first, int n)
+{
     View<float> matrix = m.view("src1"), src = m.view("src2"), dst = m.view("dst");
     bool dense = m.kernel() == "";
     float a[4][4];

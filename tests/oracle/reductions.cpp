@@ -25,13 +25,10 @@ const Orders normArray = {"0+1+2", "0+1+2+3", "((0+1)+(2+3))+4", "((0+2)+4)+((1+
 const Orders normArrayInFours = {"0+1+2", "0+1+2+3", "((0+2)+(1+3))+4", "((0+2)+4)+((1+3)+5)"};
 const Orders normLanesDouble = {"(0+2)+1", "(0+2)+(1+3)", "((0+2)+4)+(1+3)", "((0+2)+4)+((1+3)+5)"};
 
-template <class T>
-T inOrder(const char* order, const std::vector<T>& terms) {
-    return sumAsWritten(order, terms);
-}
+template <class T> T inOrder(const char* order, const std::vector<T>& terms) { return sumAsWritten(order, terms); }
 
-template <class T>
-T ascending(const std::vector<T>& terms, T start = 0, size_t from = 0) {
+template <class T> T ascending(const std::vector<T>& terms, T start = 0, size_t from = 0)
+{
     T sum = start;
     for (size_t j = from; j < terms.size(); ++j) {
         sum = sum + terms[j];
@@ -40,8 +37,8 @@ T ascending(const std::vector<T>& terms, T start = 0, size_t from = 0) {
 }
 
 // One long dense vector: a head up to the next 16-byte boundary, two accumulators of lanes, a tail.
-template <class T>
-T inBlocks(const std::vector<T>& terms, uintptr_t address) {
+template <class T> T inBlocks(const std::vector<T>& terms, uintptr_t address)
+{
     constexpr size_t lanes = 16 / sizeof(T), block = 2 * lanes;
     if (address % sizeof(T) != 0) {
         return ascending(terms);
@@ -72,8 +69,8 @@ T inBlocks(const std::vector<T>& terms, uintptr_t address) {
 }
 
 struct Dot {
-    template <class T>
-    static const Orders& orders(const Model<T>& m) {
+    template <class T> static const Orders& orders(const Model<T>& m)
+    {
         if (m.kernel() == "_S2" || m.kernel() == "_LS2") {
             return dotStrided;
         }
@@ -86,15 +83,15 @@ struct Dot {
         return m.function().form == "vav" ? dotSingleSecond : chain;
     }
 
-    template <class T>
-    static bool alignedBlock(const Model<T>& m, int first, int n) {
+    template <class T> static bool alignedBlock(const Model<T>& m, int first, int n)
+    {
         View<T> a = m.view("src1"), b = m.view("src2"), dst = m.view("dst");
         return sizeof(T) == 4 && m.function().form == "vava" && m.kernel() == "" && m.size("length") == 3 && n >= 5 &&
                (a.address(first) | b.address(first) | dst.address(first) | a.stride0() | b.stride0()) % 16 == 0;
     }
 
-    template <class T>
-    static int32_t run(const Model<T>& m, int first, int n) {
+    template <class T> static int32_t run(const Model<T>& m, int first, int n)
+    {
         View<T> a = m.view("src1"), b = m.view("src2"), dst = m.view("dst");
         int length = m.size("length");
         bool block = alignedBlock(m, first, n);
@@ -119,8 +116,8 @@ struct Dot {
 };
 
 struct Norm {
-    template <class T>
-    static const Orders& orders(const Model<T>& m, bool inFours) {
+    template <class T> static const Orders& orders(const Model<T>& m, bool inFours)
+    {
         if (m.kernel() != "" && m.kernel() != "_L") {
             return normStrided;
         }
@@ -130,8 +127,8 @@ struct Norm {
         return m.function().form == "v" ? normOne : inFours ? normArrayInFours : normArray;
     }
 
-    template <class T>
-    static int32_t run(const Model<T>& m, int first, int n) {
+    template <class T> static int32_t run(const Model<T>& m, int first, int n)
+    {
         View<T> src = m.view("src"), dst = m.view("dst");
         int length = m.size("length");
         for (int i = first; i < first + n; ++i) {

@@ -1,0 +1,139 @@
+// Destinations that lie on a source, wherever the outcome is promised: in place, a single source read once or anew, and
+// the element-by-element loops of long vectors.
+#include "harness/groups.h"
+#include "harness/patterns.h"
+
+using namespace harness;
+
+namespace {
+
+std::vector<std::string> groupsOf(const std::set<std::string>& families)
+{
+    std::vector<std::string> found;
+    for (const std::string& group : declaredGroups()) {
+        if (families.count(group.substr(0, group.find('_')))) {
+            found.push_back(group);
+        }
+    }
+    return found;
+}
+
+bool sameKind(const ArgSpec& a, const ArgSpec& b)
+{
+    return a.kind == ArgKind::object && b.kind == ArgKind::object && a.array == b.array && a.letter == b.letter;
+}
+
+class Overlap : public GroupTest {};
+
+TEST_P(Overlap, InPlace)
+{
+    for (const Function* function : functions()) {
+        for (const ArgSpec& source : function->args) {
+            if (source.written || !sameKind(source, function->arg("dst"))) {
+                continue;
+            }
+            for (int draw = 0; draw < 300; ++draw) {
+                JobSpec spec;
+                spec.seed = seedOf(*function, draw);
+                Random random(spec.seed);
+                int n = draw % 4 ? 3 + int(random() % 4) : 1 + int(random() % 20);
+                spec.sizes = equalSizes(*function, n, 1 + int(random() % 9));
+                spec.gap = 8192;
+                drawPatterns(spec, *function, drawStyle(random), random);
+                Pattern& shared = spec.patterns[source.name];
+                shared.sequence = 'a';
+                spec.patterns["dst"] = shared;
+                spec.overlay["dst"] = {source.name, 0};
+                if (!report(Job(*function, spec).check())) {
+                    return;
+                }
+            }
+        }
+    }
+}
+
+// The first result object lands on the single source: read once, the others still see its old value.
+TEST_P(Overlap, SingleSourceUnderTheDestination)
+{
+    for (const Function* function : functions()) {
+        for (const ArgSpec& source : function->args) {
+            bool single = source.letter == 'v' && !source.array && !source.written && function->array;
+            if (!single || function->form.find('c') != std::string::npos) {
+                continue;
+            }
+            for (int draw = 0; draw < 60; ++draw) {
+                JobSpec spec;
+                spec.seed = seedOf(*function, draw);
+                spec.sizes = equalSizes(*function, 1 + draw % 9, 3 + draw % 5);
+                Pattern pattern;
+                pattern.unit = 1 + draw / 9 % 2;
+                pattern.pad = draw % 3;
+                pattern.align = draw % 5 * function->elementSize();
+                pattern.roundObject = draw % 2 * 16;
+                spec.patterns[""] = pattern;
+                spec.gap = 4096;
+                spec.overlay["dst"] = {source.name, 0};
+                if (!report(Job(*function, spec).check())) {
+                    return;
+                }
+            }
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Form, Overlap,
+    testing::ValuesIn(groupsOf({"vokmAdd", "vokmSub", "vokmMul", "vokmSaxpy", "vokmLComb", "vokmCrossProduct"})), groupName);
+
+// From 7 elements on, one vector that overlaps its source by any distance is done element by element, ascending.
+void ascendAt(const Function& function, const ArgSpec& source, int64_t bytes)
+{
+    JobSpec spec;
+    spec.seed = seedOf(function, bytes + 1000);
+    spec.sizes = equalSizes(function, 7 + int(spec.seed % 18), 1);
+    spec.patterns[""].align = int(spec.seed / 64 % 4) * function.elementSize();
+    spec.gap = 4096;
+    spec.overlay["dst"] = {source.name, bytes};
+    EXPECT_EQ(Job(function, spec).check(), "") << "dst " << bytes << " bytes behind " << source.name;
+}
+
+class OverlappingVectors : public testing::TestWithParam<const char*> {
+protected:
+    void ascend(int64_t offset, int step)
+    {  // in halves of an element
+        for (const Function* function : functionsOf(GetParam())) {
+            for (const ArgSpec& source : function->args) {
+                for (int64_t half = -52 + offset; half <= 52 && source.letter == 'v' && !source.written; half += step) {
+                    ascendAt(*function, source, half * function->elementSize() / 2);
+                }
+            }
+        }
+    }
+};
+
+TEST_P(OverlappingVectors, WholeElementsApart) { ascend(0, 2); }
+TEST_P(OverlappingVectors, HalfElementsApart) { ascend(1, 2); }
+
+INSTANTIATE_TEST_SUITE_P(Form, OverlappingVectors,
+    testing::Values(
+        "vokmAdd_vv", "vokmSub_vv", "vokmAdd_vc", "vokmSub_vc", "vokmSub_cv", "vokmMul_vc", "vokmSaxpy_vv", "vokmLComb_vv"));
+
+// A vector that starts between two elements' addresses is summed one by one.
+TEST(UnalignedVectors, AreSummedAscending)
+{
+    for (const char* group : {"vokmDotProduct_vv", "vokmL2Norm_v"}) {
+        for (const Function* function : functionsOf(group)) {
+            for (int align = 1; align < 16; ++align) {
+                for (int length = 1; length < 40; ++length) {
+                    JobSpec spec;
+                    spec.seed = seedOf(*function, align * 64 + length);
+                    spec.sizes = equalSizes(*function, length, 1);
+                    spec.patterns[function->args[0].name].align = align;
+                    spec.patterns["src2"].align = 16 - align;
+                    EXPECT_EQ(Job(*function, spec).check(), "");
+                }
+            }
+        }
+    }
+}
+
+}  // namespace
