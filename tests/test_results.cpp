@@ -25,7 +25,7 @@ TEST_P(Results, EveryLayoutAndSize)
             JobSpec spec;
             spec.seed = seedOf(*function, draw);
             Random random(spec.seed);
-            spec.sizes = drawSizes(*function, random);
+            spec.sizes = drawAgreeingSizes(*function, random);
             drawPatterns(spec, *function, drawStyle(random), random);
             spec.values = drawValues(random);
             if (!report(Job(*function, spec).check())) {
@@ -43,7 +43,7 @@ TEST_P(Results, PointersBetweenElements)
             JobSpec spec;
             spec.seed = seedOf(*function, 5000 + draw);
             Random random(spec.seed);
-            spec.sizes = drawSizes(*function, random);
+            spec.sizes = drawAgreeingSizes(*function, random);
             drawPatterns(spec, *function, drawStyle(random), random);
             for (auto& [name, pattern] : spec.patterns) {
                 pattern.align += int(random() % function->elementSize());

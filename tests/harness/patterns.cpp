@@ -61,7 +61,7 @@ void drawPatterns(JobSpec& spec, const Function& function, Style style, Random& 
     }
 }
 
-std::map<std::string, int32_t> drawSizes(const Function& function, Random& random)
+std::map<std::string, int32_t> drawAgreeingSizes(const Function& function, Random& random)
 {
     bool matrices = std::any_of(
         function.args.begin(), function.args.end(), [](const ArgSpec& arg) { return arg.letter == 'm' || arg.letter == 't'; });

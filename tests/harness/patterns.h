@@ -17,6 +17,6 @@ Pattern drawPattern(Style style, int elementSize, Random& random);
 void drawPatterns(JobSpec& spec, const Function& function, Style style, Random& random);
 Style drawStyle(Random& random);
 // Sizes that agree with each other, count included; emphasis on 3 to 6, long ones for single vectors.
-std::map<std::string, int32_t> drawSizes(const Function& function, Random& random);
+std::map<std::string, int32_t> drawAgreeingSizes(const Function& function, Random& random);
 
 }  // namespace harness
