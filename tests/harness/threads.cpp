@@ -4,7 +4,7 @@
 #include <cstdint>
 
 namespace {
-std::atomic<int> firstAnswer{1}, laterAnswer{1}, questions{0}, cacheBytes{0};
+std::atomic<int> firstAnswer{1}, laterAnswer{1}, questions{0}, cacheBytes{0}, cacheAsked{0};
 }
 
 extern "C" __attribute__((visibility("default"))) int32_t ownGetNumThreads(void) {
@@ -12,6 +12,7 @@ extern "C" __attribute__((visibility("default"))) int32_t ownGetNumThreads(void)
 }
 
 extern "C" __attribute__((visibility("default"))) int32_t vokGetMaxCacheSizeB(int32_t* bytes) {
+    ++cacheAsked;
     *bytes = cacheBytes;
     return 0;
 }
@@ -26,6 +27,11 @@ void setThreads(int first, int second) {
 
 int threadQuestions() { return questions; }
 
-void setCacheBytes(int bytes) { cacheBytes = bytes; }
+void setCacheBytes(int bytes) {
+    cacheBytes = bytes;
+    cacheAsked = 0;
+}
+
+int cacheQuestions() { return cacheAsked; }
 
 }  // namespace harness

@@ -5,6 +5,7 @@ namespace harness {
 
 void setThreads(int first, int second = -1);  // the answers to the first and the later questions; resets the counter
 int threadQuestions();                        // how often the library has asked since
-void setCacheBytes(int bytes);
+void setCacheBytes(int bytes);  // resets the counter
+int cacheQuestions();
 
 }  // namespace harness
