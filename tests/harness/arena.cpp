@@ -64,6 +64,9 @@ void Operand::place(int64_t start, const Pattern& pattern, Random& random)
         int n = order[i];
         places[i] = base + (isList() ? n * stride0 : (n / shape.cols) * stride1 + (n % shape.cols) * stride2);
     }
+    for (int i = 0; i < spareEntries && isTable(); ++i) {
+        places.push_back(base + (shape.rows - 1) * stride1 + (shape.cols - 1) * stride2 + (i + 1) * elementSize);
+    }
 }
 
 void Operand::bind(char* live, Arguments& arguments)

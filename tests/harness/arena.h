@@ -41,6 +41,7 @@ struct Operand {
     int64_t shift = 0;            // bytes
     std::vector<int64_t> places;  // offsets behind a table's or list's entries
     std::vector<char*> entries, entriesBefore;
+    int spareEntries = 0;                    // behind the end of a table, leading behind the last element
 
     bool isList() const { return spec.layout == 'L' && spec.array && spec.kind == ArgKind::object; }
     bool isTable() const { return spec.layout == 'P' && spec.kind == ArgKind::object && spec.letter != 'c'; }

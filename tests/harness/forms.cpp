@@ -198,6 +198,8 @@ struct Table {
             f.order = departure.at(2);
         } else if (departure[1] == "untested") {
             f.untested.push_back(departure.at(2));
+        } else if (departure[1] == "spare") {
+            f.spareEntries = std::stoi(departure.at(2));
         } else if (departure[1] == "serial") {
             f.wrapper = false;
         }

@@ -38,6 +38,7 @@ struct Function {
     std::vector<ArgSpec> args;
     std::string order;                  // steps of the checks, see below
     std::vector<std::string> untested;  // strides that the stride step leaves out
+    int spareEntries = 0;               // of each table, behind its end, for kernels that go there
     std::string match = "1";            // sizes that have to agree
     std::string work;                   // empty: never parallel
     bool parallelAtLimit = false;

@@ -10,7 +10,7 @@
 //
 // Limits, by layout S P L: dense/strided;64f. Traits: "M <condition>" agreement, ">=" parallel at the limit, "merge" the
 // threads' statuses count, "32f" that type alone, kernels "one" or "none" where they are not the usual set.
-// "*" in the form column of traits lines below names one function that departs from its row.
+// A "!" line names one function that departs from its row; "spare n" are entries behind the end of each of its tables.
 namespace harness {
 
 extern const char* const formsTable;
@@ -152,6 +152,8 @@ vokmEigenValuesGetBufSize vokmEigenValuesVectorsGetBufSize | - | widthHeight buf
 ! vokmAdd_vaca_32f_P  untested srcStride0
 ! vokmSub_vva_64f_P          serial
 ! vokmCrossProduct_vva_64f_P serial
+! vokmMul_mm_32f_P   spare 9
+! vokmMul_tt_64f_P   spare 9
 ! vokmExtract_v_64f_P        order ZNO
 ! vokmLoadIdentity_ma_64f_P  order NZCOs
 ! vokmCopy_va_32f_LP  order NZCOSs

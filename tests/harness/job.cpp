@@ -98,6 +98,7 @@ void Job::layOut(Random& random)
         if (auto over = spec.overlay.find(arg.name); over != spec.overlay.end()) {
             start = operands.at(over->second.first).base + over->second.second;
         }
+        operand.spareEntries = function.spareEntries;
         operand.place(start, pattern, random);
         end = std::max(end, start + extent + gap);
         operands[arg.name] = operand;

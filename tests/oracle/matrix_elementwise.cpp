@@ -5,14 +5,14 @@ namespace {
 
 using namespace harness;
 
-template <class T>
-T apply(const std::string& family, T a, T b) {
+template <class T> T apply(const std::string& family, T a, T b)
+{
     return family == "vokmAdd" ? a + b : family == "vokmSub" ? a - b : a * b;
 }
 
 struct Elementwise {
-    template <class T>
-    static int32_t run(const Model<T>& m, int first, int n) {
+    template <class T> static int32_t run(const Model<T>& m, int first, int n)
+    {
         const std::string& family = m.function().family;
         bool constant = m.function().form.find('c') != std::string::npos;
         View<T> a = m.view(constant ? "src" : "src1"), b = m.view(constant ? "src" : "src2"), dst = m.view("dst");

@@ -34,7 +34,8 @@ const Row straightSizes[] = {
     {"tata", {"3456", "3456", "3456", "3456", "3456", "3456", "3456", "3456", "3456", "3456"}},
 };
 
-const char* sizesOf(const std::string& form, const std::string& kernel, bool isDouble) {
+const char* sizesOf(const std::string& form, const std::string& kernel, bool isDouble)
+{
     static const std::array<std::string, 5> kernels = {"", "_S2", "_P", "_L", "_LS2"};
     auto row = std::find_if(std::begin(straightSizes), std::end(straightSizes), [&](const Row& r) { return r.form == form; });
     return row->sizes[std::find(kernels.begin(), kernels.end(), kernel) - kernels.begin() + (isDouble ? 5 : 0)];
@@ -47,10 +48,11 @@ struct Shape3 {
 
 // Two kernels join the tests of the sizes by OR, so that sizes from 1 to 3 enter the 3x3 code with its fixed loops. One
 // tests a height for 3 where 4 is meant: its 4x4 code serves products with three columns and writes a fourth.
-template <class T>
-Shape3 loopsOf(const Model<T>& m, const View<T>& a, const View<T>& b) {
+template <class T> Shape3 loopsOf(const Model<T>& m, const View<T>& a, const View<T>& b)
+{
     int w1 = m.size("src1Width"), h1 = m.size("src1Height"), w2 = m.size("src2Width"), h2 = m.size("src2Height");
-    const std::string name = "own" + m.function().family + "_" + m.function().form + (sizeof(T) == 8 ? "_64f" : "_32f") + m.kernel();
+    const std::string name =
+        "own" + m.function().family + "_" + m.function().form + (sizeof(T) == 8 ? "_64f" : "_32f") + m.kernel();
     if ((name == "ownvokmMul_mm_32f_P" || name == "ownvokmMul_tt_64f_P") && (w1 | h1 | w2 | h2) == 3) {
         return {3, 3, 3, true};
     }
@@ -63,8 +65,8 @@ Shape3 loopsOf(const Model<T>& m, const View<T>& a, const View<T>& b) {
 }
 
 struct Product {
-    template <class T>
-    static int32_t run(const Model<T>& m, int first, int n) {
+    template <class T> static int32_t run(const Model<T>& m, int first, int n)
+    {
         View<T> a = m.view("src1"), b = m.view("src2"), dst = m.view("dst");
         Shape3 loops = loopsOf(m, a, b);
         for (int i = first; i < first + n; ++i) {
@@ -90,7 +92,8 @@ struct Product {
     }
 };
 
-std::vector<std::string> groups() {
+std::vector<std::string> groups()
+{
     std::vector<std::string> names;
     for (const Row& row : straightSizes) {
         names.push_back(std::string("vokmMul_") + row.form);

@@ -12,8 +12,8 @@ namespace {
 using namespace harness;
 
 struct Trace {
-    template <class T>
-    static int32_t run(const Model<T>& m, int first, int n) {
+    template <class T> static int32_t run(const Model<T>& m, int first, int n)
+    {
         static const std::array<const char*, 4> chain = {"0+1+2", "0+1+2+3", "0+1+2+3+4", "0+1+2+3+4+5"};
         static const std::array<const char*, 4> strided = {"0+1+2", "0+3+1+2", "0+4+1+2+3", "4+5+0+1+2+3"};
         View<T> src = m.view("src"), dst = m.view("dst");
@@ -39,8 +39,8 @@ struct Trace {
     }
 };
 
-template <class T>
-T ascending(const std::vector<T>& terms, size_t from, size_t to, T start = 0) {
+template <class T> T ascending(const std::vector<T>& terms, size_t from, size_t to, T start = 0)
+{
     for (size_t j = from; j < to; ++j) {
         start = start + terms[j];
     }
@@ -50,8 +50,8 @@ T ascending(const std::vector<T>& terms, size_t from, size_t to, T start = 0) {
 struct FrobNorm {
     enum Order { chain, pairs, rowSums, lastColumnFirst, lanes, any };
 
-    template <class T>
-    static Order orderOf(const Model<T>& m, int height, int width) {
+    template <class T> static Order orderOf(const Model<T>& m, int height, int width)
+    {
         bool array = m.function().array, single = sizeof(T) == 4;
         const std::string& kernel = m.kernel();
         bool threes = width == 3 && height == 3;
@@ -70,41 +70,41 @@ struct FrobNorm {
         return width == 5 || width == 6 ? lastColumnFirst : any;
     }
 
-    template <class T>
-    static T sumOf(Order order, const std::vector<T>& q, size_t width) {
+    template <class T> static T sumOf(Order order, const std::vector<T>& q, size_t width)
+    {
         T sum = 0;
         switch (order) {
-            case pairs:
-                for (size_t j = 0; j + 1 < q.size(); j += 2) {
-                    T pair = q[j] + q[j + 1];
-                    sum = sum + pair;
-                }
-                return q.size() % 2 ? sum + q.back() : sum;
-            case rowSums:
-                for (size_t j = 0; j < q.size(); j += width) {
-                    sum = sum + ascending(q, j + 1, j + width, q[j]);
-                }
-                return sum;
-            case lastColumnFirst:
-                for (size_t j = 0; j < q.size(); j += width) {
-                    sum = ascending(q, j, j + width - 1, T(sum + q[j + width - 1]));
-                }
-                return sum;
-            case lanes: {
-                std::vector<T> down;
-                for (size_t c = 0; c < 4; ++c) {
-                    const char* order4 = "(0+1)+(2+3)";
-                    down.push_back(sumAsWritten(order4, std::vector<T>{q[c], q[4 + c], q[8 + c], q[12 + c]}));
-                }
-                const char* across = "(0+2)+(1+3)";
-                return sumAsWritten(across, down);
+        case pairs:
+            for (size_t j = 0; j + 1 < q.size(); j += 2) {
+                T pair = q[j] + q[j + 1];
+                sum = sum + pair;
             }
-            default: return ascending(q, 0, q.size());
+            return q.size() % 2 ? sum + q.back() : sum;
+        case rowSums:
+            for (size_t j = 0; j < q.size(); j += width) {
+                sum = sum + ascending(q, j + 1, j + width, q[j]);
+            }
+            return sum;
+        case lastColumnFirst:
+            for (size_t j = 0; j < q.size(); j += width) {
+                sum = ascending(q, j, j + width - 1, T(sum + q[j + width - 1]));
+            }
+            return sum;
+        case lanes: {
+            std::vector<T> down;
+            for (size_t c = 0; c < 4; ++c) {
+                const char* order4 = "(0+1)+(2+3)";
+                down.push_back(sumAsWritten(order4, std::vector<T>{q[c], q[4 + c], q[8 + c], q[12 + c]}));
+            }
+            const char* across = "(0+2)+(1+3)";
+            return sumAsWritten(across, down);
+        }
+        default: return ascending(q, 0, q.size());
         }
     }
 
-    template <class T>
-    static int32_t run(const Model<T>& m, int first, int n) {
+    template <class T> static int32_t run(const Model<T>& m, int first, int n)
+    {
         View<T> src = m.view("src"), dst = m.view("dst");
         Order order = orderOf(m, src.rows(), src.cols());
         for (int i = first; i < first + n; ++i) {

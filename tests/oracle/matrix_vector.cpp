@@ -34,8 +34,8 @@ const Row products[] = {
     {"tava", &mixed, &mixed, &chain, general},
 };
 
-template <class T>
-const Orders* ordersOf(const Model<T>& m) {
+template <class T> const Orders* ordersOf(const Model<T>& m)
+{
     bool plain = m.kernel() == "", list = m.kernel() == "_L", single = sizeof(T) == 4, gaxpy = m.function().family == "vokmGaxpy";
     if (!plain && !list) {
         return gaxpy ? &lastFirst : &chain;
@@ -53,8 +53,8 @@ const Orders* ordersOf(const Model<T>& m) {
 
 // The dense 3x3 kernel for arrays of both, on rows of 16 bytes, goes in twos up to the count itself: with an odd count it
 // computes and stores one object more.
-template <class T>
-bool goesInTwos(const Model<T>& m, int first) {
+template <class T> bool goesInTwos(const Model<T>& m, int first)
+{
     if (sizeof(T) != 4 || m.function().form != "tava" || m.kernel() != "") {
         return false;
     }
@@ -64,8 +64,8 @@ bool goesInTwos(const Model<T>& m, int first) {
 }
 
 struct MatrixVector {
-    template <class T>
-    static int32_t run(const Model<T>& m, int first, int n) {
+    template <class T> static int32_t run(const Model<T>& m, int first, int n)
+    {
         bool gaxpy = m.function().family == "vokmGaxpy";
         View<T> a = m.view("src1"), b = m.view("src2"), c = m.view(gaxpy ? "src3" : "src2"), dst = m.view("dst");
         const Orders* orders = ordersOf(m);

@@ -6,8 +6,8 @@ namespace {
 using namespace harness;
 
 // `place(dst, i, r, c, value)` puts the element of the source at row r, column c.
-template <class T, class Place>
-int32_t moveAll(const Model<T>& m, int first, int n, Place place) {
+template <class T, class Place> int32_t moveAll(const Model<T>& m, int first, int n, Place place)
+{
     View<T> src = m.view("src"), dst = m.view("dst");
     for (int i = first; i < first + n; ++i) {
         for (int r = 0; r < src.rows(); ++r) {
@@ -20,30 +20,30 @@ int32_t moveAll(const Model<T>& m, int first, int n, Place place) {
 }
 
 struct Copy {
-    template <class T>
-    static int32_t run(const Model<T>& m, int first, int n) {
+    template <class T> static int32_t run(const Model<T>& m, int first, int n)
+    {
         return moveAll(m, first, n, [](View<T>& dst, int i, int r, int c, T value) { dst.set(i, r, c, value); });
     }
 };
 
 struct Extract {
-    template <class T>
-    static int32_t run(const Model<T>& m, int first, int n) {
+    template <class T> static int32_t run(const Model<T>& m, int first, int n)
+    {
         int width = m.view("src").cols();
         return moveAll(m, first, n, [width](View<T>& dst, int i, int r, int c, T value) { dst.set(i, r * width + c, value); });
     }
 };
 
 struct Transpose {
-    template <class T>
-    static int32_t run(const Model<T>& m, int first, int n) {
+    template <class T> static int32_t run(const Model<T>& m, int first, int n)
+    {
         return moveAll(m, first, n, [](View<T>& dst, int i, int r, int c, T value) { dst.set(i, c, r, value); });
     }
 };
 
 struct LoadIdentity {
-    template <class T>
-    static int32_t run(const Model<T>& m, int first, int n) {
+    template <class T> static int32_t run(const Model<T>& m, int first, int n)
+    {
         View<T> dst = m.view("dst");
         for (int i = first; i < first + n; ++i) {
             for (int r = 0; r < dst.rows(); ++r) {

@@ -1,0 +1,265 @@
+// Matrices of all shapes against the slow evaluation; results in place where that is promised; and the kernels whose size
+// tests or loop limits let them touch more than the objects of the call.
+#include <algorithm>
+
+#include "harness/expression.h"
+#include "harness/groups.h"
+#include "harness/patterns.h"
+
+using namespace harness;
+
+namespace {
+
+bool isMatrixForm(const std::string& group)
+{
+    std::string family = group.substr(0, group.find('_')), form = group.substr(group.find('_') + 1);
+    static const std::set<std::string> whole = {
+        "vokmCopy", "vokmExtract", "vokmLoadIdentity", "vokmTranspose", "vokmTrace", "vokmFrobNorm", "vokmGaxpy"};
+    bool arithmetic = family == "vokmAdd" || family == "vokmSub" || family == "vokmMul";
+    return whole.count(family) || (arithmetic && form.find_first_of("mt") != std::string::npos);
+}
+
+std::vector<std::string> matrixGroups()
+{
+    std::vector<std::string> groups = declaredGroups();
+    groups.erase(std::remove_if(groups.begin(), groups.end(), [](auto& group) { return !isMatrixForm(group); }), groups.end());
+    return groups;
+}
+
+// Sizes around one with straight code, so that one of them alone may keep a product from it.
+std::map<std::string, int32_t> drawSizesAround(const Function& function, Random& random)
+{
+    int near = 3 + int(random() % 4);
+    std::map<std::string, int32_t> sizes = equalSizes(function, near, 1 + int(random() % 9));
+    do {
+        for (auto& [name, value] : sizes) {
+            value = name == "count" ? value : near + (random() % 4 ? 0 : random() % 2 ? 1 : -1);
+        }
+    } while (!evaluate(function.match, [&](const std::string& name) { return sizes.at(name); }));
+    return sizes;
+}
+
+// Rows of 16 bytes and their multiples, from which at most one operand departs: the conditions of the aligned paths.
+void drawNearlyAligned(JobSpec& spec, const Function& function, Random& random)
+{
+    Pattern common;
+    common.pad = int(random() % 4);
+    common.roundObject = 16;
+    std::vector<std::string> names;
+    for (const ArgSpec& arg : function.args) {
+        if (arg.kind != ArgKind::real && arg.kind != ArgKind::integer) {
+            spec.patterns[arg.name] = common;
+            spec.patterns[arg.name].align = int(random() % 4) * 16;
+            names.push_back(arg.name);
+        }
+    }
+    Pattern& one = spec.patterns[names[random() % names.size()]];
+    switch (random() % 5) {
+    case 0: one.align += function.elementSize() * (1 + int(random() % 3)); break;
+    case 1: one.pad = int(random() % 4); break;
+    case 2: one.roundObject = 0; break;
+    }
+}
+
+class Matrices : public GroupTest {};
+
+TEST_P(Matrices, AlignedRows)
+{
+    for (const Function* function : functions()) {
+        for (int draw = 0; draw < 800; ++draw) {
+            JobSpec spec;
+            spec.seed = seedOf(*function, draw);
+            Random random(spec.seed);
+            spec.sizes = draw % 2 ? drawSizesAround(*function, random) : drawAgreeingSizes(*function, random);
+            spec.values = draw % 4 ? Values::ordinary : draw % 8 ? Values::special : Values::zeros;
+            drawNearlyAligned(spec, *function, random);
+            if (!report(Job(*function, spec).check())) {
+                return;
+            }
+        }
+    }
+}
+
+// Square sizes that may be computed onto an operand. Products: pointer kernels read an object whole before they store, and
+// some dense kernels of 32f finish with a row of the first operand, or hold the second, before they store.
+std::string sizesInPlace(const Function& function, const std::string& kernel, const ArgSpec& source)
+{
+    if (function.family != "vokmMul" || function.form.find('c') != std::string::npos) {
+        return source.letter == 'm' && source.array == function.array ? "12345678" : "";
+    }
+    if (function.form.find('v') != std::string::npos) {
+        return "";
+    }
+    if (kernel == "_P" && source.array == function.array) {
+        static const std::set<std::string> threes = {"mam", "mat", "tam"};
+        return !function.isDouble && threes.count(function.form) ? "3" : "3456";
+    }
+    static const std::set<std::string> byRows = {"mm", "mam", "mma", "mama"};
+    bool dense = kernel == "" && !function.isDouble && byRows.count(function.form);
+    return !dense ? "" : source.name == "src1" ? "345" : "34";
+}
+
+TEST_P(Matrices, InPlace)
+{
+    for (const Function* function : functions()) {
+        bool elementwise = function->family == "vokmAdd" || function->family == "vokmSub" || function->family == "vokmMul";
+        for (const ArgSpec& source : function->args) {
+            if (!elementwise || source.written || source.kind != ArgKind::object) {
+                continue;
+            }
+            for (int draw = 0; draw < 300; ++draw) {
+                JobSpec spec;
+                spec.seed = seedOf(*function, draw);
+                Random random(spec.seed);
+                int n = 1 + int(random() % 8);
+                spec.sizes = equalSizes(*function, n, source.array ? 1 + int(random() % 9) : 1);
+                if (spec.sizes.count("width") && random() % 2) {
+                    spec.sizes["width"] = 1 + int(random() % 8);
+                }
+                drawPatterns(spec, *function, drawStyle(random), random);
+                Pattern& shared = spec.patterns[source.name];
+                shared.sequence = 'a';
+                spec.patterns["dst"] = shared;
+                spec.overlay["dst"] = {source.name, 0};
+                Job job(*function, spec);
+                bool promised = sizesInPlace(*function, job.kernel, source).find(char('0' + n)) != std::string::npos;
+                if (promised && !report(job.check())) {
+                    return;
+                }
+            }
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Form, Matrices, testing::ValuesIn(matrixGroups()), groupName);
+
+class OddKernels : public GroupTest {
+protected:
+    // All draws of one group with given sizes; `prepare` may touch the job before it runs.
+    template <class Prepare> void run(const std::string& group, const std::map<std::string, int32_t>& sizes, Prepare prepare)
+    {
+        for (const Function* function : functionsOf(group)) {
+            for (int draw = 0; draw < 100; ++draw) {
+                JobSpec spec;
+                spec.seed = seedOf(*function, draw);
+                Random random(spec.seed);
+                spec.gap = 512;
+                spec.sizes = sizes;
+                if (function->array) {
+                    spec.sizes["count"] = 1 + draw % 9;
+                }
+                if (draw % 2) {
+                    drawPatterns(spec, *function, drawStyle(random), random);
+                } else {
+                    drawNearlyAligned(spec, *function, random);
+                }
+                Job job(*function, spec);
+                prepare(job);
+                if (!report(job.check())) {
+                    return;
+                }
+            }
+        }
+    }
+};
+
+// Four rows by three: the dense kernel of 32f computes a fourth column from the row behind the second operand.
+TEST_F(OddKernels, ProductWithThreeColumnsStoresAFourth)
+{
+    std::map<std::string, int32_t> sizes = {{"src1Width", 4}, {"src1Height", 4}, {"src2Width", 4}, {"src2Height", 3}};
+    int stored = 0;
+    run("vokmMul_mat", sizes, [&](Job& job) {
+        if (job.function.name != "vokmMul_mat_32f" || job.kernel != "") {
+            return;
+        }
+        for (int k = 0; k < 4; ++k) {
+            job.put<float>("src2", 0, k, 3, 0.5f + float(k));
+        }
+        const Operand& dst = job.operands.at("dst");
+        const char* behind = job.arena.live() + dst.offset(dst.shape.objects - 1, 3, 3);
+        float before = load<float>(behind);
+        job.runLibrary();
+        stored += load<float>(behind) != before;
+        std::memcpy(job.arena.live(), job.arena.model(), job.arena.size());
+    });
+    EXPECT_GT(stored, 40);
+}
+
+// Sizes of 1 to 3 that give 3 when joined by OR run through the 3x3 code of two pointer kernels.
+TEST_F(OddKernels, SizesJoinedByOr)
+{
+    for (const char* form : {"mm", "tt"}) {
+        const std::string group = std::string("vokmMul_") + form;
+        const std::vector<const Function*> members = functionsOf(group);
+        for (int sizes = 0; sizes < 81; ++sizes) {
+            std::map<std::string, int32_t> drawn = {{"src1Width", 1 + sizes % 3}, {"src1Height", 1 + sizes / 3 % 3},
+                {"src2Width", 1 + sizes / 9 % 3}, {"src2Height", 1 + sizes / 27}};
+            for (const Function* function : members) {
+                if (!evaluate(function->match, [&](const std::string& name) { return drawn.at(name); })) {
+                    continue;
+                }
+                JobSpec spec;
+                spec.seed = seedOf(*function, uint64_t(sizes));
+                Random random(spec.seed);
+                spec.sizes = drawn;
+                drawPatterns(spec, *function, drawStyle(random), random);
+                if (!report(Job(*function, spec).check())) {
+                    return;
+                }
+            }
+        }
+    }
+}
+
+// With an odd count and everything on 16 bytes, one object is computed behind the last.
+TEST_F(OddKernels, TransposedArraysGoInTwos)
+{
+    if (!isDeclared("vokmMul_tava_32f")) {
+        GTEST_SKIP();
+    }
+    const Function& function = functionNamed("vokmMul_tava_32f");
+    for (int count = 1; count <= 9; ++count) {
+        for (const char* misplaced : {"", "src1", "src2", "dst"}) {
+            JobSpec spec;
+            spec.seed = uint64_t(count);
+            spec.gap = 512;
+            spec.sizes = equalSizes(function, 3, count);
+            Pattern rows;
+            rows.pad = 1;
+            rows.roundObject = 16;
+            spec.patterns[""] = rows;
+            if (*misplaced) {
+                rows.align = 4;
+                spec.patterns[misplaced] = rows;
+            }
+            Job job(function, spec);
+            job.put<float>("src1", count, 1, 1, 3.0f);
+            job.put<float>("src2", count, 0, 1, 5.0f);
+            const char* behind = job.arena.live() + job.operands.at("dst").offset(count, 0, 1);
+            float before = load<float>(behind);
+            report(job.check());
+            bool stored = load<float>(behind) != before;
+            EXPECT_EQ(stored, count % 2 == 1 && !*misplaced) << "count " << count << " misplaced " << misplaced;
+        }
+    }
+}
+
+// General traces store each partial sum, which shows where the result lies on the diagonal itself.
+TEST_F(OddKernels, TraceOntoItsDiagonal)
+{
+    for (const Function* function : functionsOf("vokmTrace_m")) {
+        for (int n : {1, 2, 7, 8}) {
+            for (int k = 0; k < n; ++k) {
+                for (int unit : {1, 2}) {
+                    JobSpec spec;
+                    spec.sizes = {{"widthHeight", n}};
+                    spec.patterns[""].unit = unit;
+                    spec.overlay["dst"] = {"src", int64_t(k) * (n + 1) * unit * function->elementSize()};
+                    report(Job(*function, spec).check());
+                }
+            }
+        }
+    }
+}
+
+}  // namespace
