@@ -19,7 +19,7 @@ target_compile_options(vokm_warnings INTERFACE -Wall -Wextra -Wshadow
 add_library(vokm_flags INTERFACE)
 target_link_libraries(vokm_flags INTERFACE vokm_warnings)
 target_compile_options(vokm_flags INTERFACE
-    -msse3 -mfpmath=sse -ffp-contract=off -fno-math-errno
+    -msse3 -mfpmath=sse -ffp-contract=off -fno-math-errno -falign-loops=64
     -fvisibility=hidden $<$<COMPILE_LANGUAGE:CXX>:-fvisibility-inlines-hidden>)
 
 set(VOKM_SANITIZE "" CACHE STRING "Sanitizers for everything that is built, e.g. address,undefined")

@@ -10,7 +10,7 @@ template <int n> struct Fixed {
 };
 
 /// Calls fixed(Fixed<n>) if n is 3 to 6, else general().
-template <class OnFixed, class General> inline auto onFixed(i32 n, OnFixed fixed, General general)
+template <class OnFixed, class General> VOKM_INLINE auto onFixed(i32 n, OnFixed fixed, General general)
 {
     switch (n) {
     case 3: return fixed(Fixed<3>{});
@@ -33,12 +33,12 @@ constexpr SizeSet allFixed = only(3, 4, 5, 6), generalOnly = only();
 template <class T, int R, int C, class View> struct Held {
     T one[R][C];
     Pack<T> spread[R][C];
-    Held(const View& view, bool packs)
+    VOKM_INLINE Held(const View& view, bool packs)
     {
         load(one, view, 0);
         if (packs) load(spread, view, 0);
     }
-    template <class V> V at(int r, int c) const
+    template <class V> VOKM_INLINE V at(int r, int c) const
     {
         if constexpr (isPack<V>) {
             return spread[r][c];
@@ -49,7 +49,7 @@ template <class T, int R, int C, class View> struct Held {
 };
 
 /// Object i of an array operand, or the held single one.
-template <class V, int R, int C, class View, class H> inline void loadOrHeld(V (&tile)[R][C], const View& view, const H& held, i32 i)
+template <class V, int R, int C, class View, class H> VOKM_INLINE void loadOrHeld(V (&tile)[R][C], const View& view, const H& held, i32 i)
 {
     if constexpr (View::array) {
         load(tile, view, i);
@@ -61,7 +61,7 @@ template <class V, int R, int C, class View, class H> inline void loadOrHeld(V (
 }
 
 struct NothingHeld {
-    template <class View> NothingHeld(const View&, bool) {}
+    template <class View> VOKM_INLINE NothingHeld(const View&, bool) {}
 };
 template <class T, int R, int C, class View> using HeldIfSingle = std::conditional_t<View::array, NothingHeld, Held<T, R, C, View>>;
 

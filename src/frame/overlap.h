@@ -1,7 +1,7 @@
 // Overlap: whether a pack of objects may be read before the first of them is written.
 //
 // Objects are finished in ascending order, one before the next is begun; that is what a caller sees whose result overlaps an
-// operand. A pack reads all its objects before it writes one, which gives the same results unless a result of the pack lies
+// operand. The tests take their operands by value, so that the kernel's own copies can stay in registers. A pack reads all its objects before it writes one, which gives the same results unless a result of the pack lies
 // where a later object of the pack is read, or two results of the pack share memory. The guard here decides that once for the
 // stride and pointer layouts, and for each pack in the list layout; where it says no, the objects go one by one.
 #pragma once
@@ -23,9 +23,9 @@ struct Extent {
     Extent with(const Extent& other) const { return {std::min(low, other.low), std::max(high, other.high)}; }
 };
 
-/// An operand and the logical shape of its objects.
+/// An operand and the logical shape of its objects: a copy, so that the kernel's own view stays in registers.
 template <class View> struct Shaped {
-    const View& view;
+    View view;
     Shape shape;
 
     template <class Visit> void eachElement(i32 i, Visit visit) const
@@ -63,7 +63,7 @@ template <class View> struct Shaped {
 };
 
 /// All elements of a pack's objects, by position: whether the positions of `a` and `b` are the same or have no byte in common.
-template <class A, class B> bool positionsApart(const Shaped<A>& a, const Shaped<B>& b, i64 reach)
+template <class A, class B> bool positionsApart(Shaped<A> a, Shaped<B> b, i64 reach)
 {
     bool apart = true;
     a.eachElement(0, [&](Address x) {
@@ -77,7 +77,7 @@ template <class A, class B> bool positionsApart(const Shaped<A>& a, const Shaped
 template <class View> constexpr bool isList = requires(const View& view) { view.list; };
 template <class View> constexpr bool fixedStep = View::array && !isList<View>;
 
-template <class D> bool resultsApart(const Shaped<D>& dst)
+template <class D> [[gnu::noinline]] bool resultsApart(Shaped<D> dst)
 {
     constexpr i64 E = sizeof(typename D::element), N = packLanes<typename D::element>;
     const Extent one = dst.extent(0);
@@ -91,7 +91,7 @@ template <class D> bool resultsApart(const Shaped<D>& dst)
     return same == position && positionsApart(dst, dst, (N - 1) * step + E);
 }
 
-template <class D> bool resultsApartIfArray(const Shaped<D>& dst)
+template <class D> VOKM_INLINE bool resultsApartIfArray(const Shaped<D>& dst)
 {
     if constexpr (fixedStep<D>) {
         return resultsApart(dst);
@@ -100,7 +100,7 @@ template <class D> bool resultsApartIfArray(const Shaped<D>& dst)
     }
 }
 
-template <class D, class S> bool sourceSafe(i32 count, const Shaped<D>& dst, const Shaped<S>& src)
+template <class D, class S> [[gnu::noinline]] bool sourceSafe(i32 count, Shaped<D> dst, Shaped<S> src)
 {
     constexpr i64 E = sizeof(typename D::element), N = packLanes<typename D::element>;
     const Extent d = dst.extent(0), s = src.extent(0);
@@ -124,7 +124,7 @@ template <class D, class S> bool sourceSafe(i32 count, const Shaped<D>& dst, con
 
 /// Whether nothing that is written is read at another place: the results lie apart from the source as a whole, or exactly on it.
 /// Then no order of the walk can be seen. Lists are not searched: they count as not separate.
-template <class D, class S> bool separate(i32 count, const Shaped<D>& dst, const Shaped<S>& src)
+template <class D, class S> [[gnu::noinline]] bool separate(i32 count, Shaped<D> dst, Shaped<S> src)
 {
     if constexpr (S::code == Code::c) {
         return true;
@@ -146,63 +146,90 @@ template <class D, class S> bool separate(i32 count, const Shaped<D>& dst, const
 }
 
 /// The list layout: the N objects from i on, each with its own address.
-template <class D, class... S> bool packSafe(i32 i, const Shaped<D>& dst, const Shaped<S>&... src)
+template <class D, class S> bool laterSourcesApart(i32 i, const Shaped<D>& dst, const Shaped<S>& src)
 {
-    constexpr int N = packLanes<typename D::element>;
-    Extent d[N];
-    for (int k = 0; k < N; ++k) d[k] = dst.extent(i + k);
-    for (int k = 1; k < N; ++k) {
-        for (int j = 0; j < k; ++j) {
-            if (!d[j].disjoint(d[k])) return false;
-        }
-    }
-    const auto later = [&](const auto& source) {
+    if constexpr (S::code == Code::c) {
+        return true;
+    } else {
+        constexpr int N = packLanes<typename D::element>;
+        Extent s[N], allResults = dst.extent(i), allSources = src.extent(i);
+        for (int k = 1; k < N; ++k) allResults = allResults.with(dst.extent(i + k));
+        for (int k = 0; k < N; ++k) allSources = allSources.with(s[k] = src.extent(i + k));
+        if (allResults.disjoint(allSources)) return true;
         for (int k = 1; k < N; ++k) {
-            const Extent s = source.extent(i + k);
             for (int j = 0; j < k; ++j) {
-                if (!d[j].disjoint(s)) return false;
+                if (!dst.extent(i + j).disjoint(s[k])) return false;
             }
         }
         return true;
-    };
-    return (later(src) && ...);
+    }
+}
+
+template <class D, class... S> bool packSafe(i32 i, const Shaped<D>& dst, const Shaped<S>&... src)
+{
+    constexpr int N = packLanes<typename D::element>;
+    if constexpr (isList<D>) {
+        Extent d[N];
+        for (int k = 0; k < N; ++k) d[k] = dst.extent(i + k);
+        for (int k = 1; k < N; ++k) {
+            for (int j = 0; j < k; ++j) {
+                if (!d[j].disjoint(d[k])) return false;
+            }
+        }
+    }
+    return (laterSourcesApart(i, dst, src) && ...);
 }
 
 template <class View> constexpr bool isConstant = View::code == Code::c;
 
+/// One answer for all packs of a call.
+struct ConstantGuard {
+    bool safe;
+    VOKM_INLINE bool operator()(i32) const { return safe; }
+};
+
 /// The guard of a call: guard(i) says whether the pack from object i on may be taken at once. Constants by value are safe.
-template <class D, class... S> auto packGuard(i32 count, const Shaped<D>& dst, const Shaped<S>&... src)
+template <class D, class... S> VOKM_INLINE auto packGuard(i32 count, const Shaped<D>& dst, const Shaped<S>&... src)
 {
     const bool enough = count >= packLanes<typename D::element>;
-    const auto ask = [&](auto test, const auto& source) {
-        if constexpr (isConstant<std::decay_t<decltype(source.view)>>) {
-            return true;
-        } else {
-            return test(source);
-        }
-    };
     if constexpr (fixedStep<D> && ((fixedStep<S> || !S::array) && ...)) {
-        const auto test = [&](const auto& source) { return sourceSafe(count, dst, source); };
-        return [safe = enough && (ask(test, src) && ...) && resultsApart(dst)](i32) { return safe; };
-    } else {
-        return [=](i32 i) {
-            return enough && packSafe(i, dst, src...);
+        const auto test = [&](const auto& source) VOKM_INLINE_LAMBDA {
+            if constexpr (isConstant<std::decay_t<decltype(source.view)>>) {
+                return true;
+            } else {
+                return sourceSafe(count, dst, source);
+            }
         };
+        return ConstantGuard{enough && (test(src) && ...) && resultsApart(dst)};
+    } else {
+        const bool results = enough && resultsApartIfArray(dst);
+        return [=](i32 i) { return results && packSafe(i, dst, src...); };
+    }
+}
+
+/// The guard that make() returns, made only if there are enough objects for a pack: a call on one object costs nothing here.
+template <class T, class Make> VOKM_INLINE auto lazyGuard(i32 count, Make make)
+{
+    if constexpr (std::is_same_v<decltype(make()), ConstantGuard>) {
+        ConstantGuard guard{false};
+        if (count >= packLanes<T>) guard = make();
+        return guard;
+    } else {
+        return make();
     }
 }
 
 /// Walks the objects in ascending order, in packs where the guard allows.
-template <class T, class Guard, class Body> inline void walkGuarded(i32 count, const Guard& guard, Body body)
+template <class T, class Guard, class Body> VOKM_INLINE void walkGuarded(i32 count, const Guard& guard, Body body)
 {
-    i32 i = 0;
-    for (; i + packLanes<T> <= count; i += packLanes<T>) {
-        if (guard(i)) {
-            body(As<Pack<T>>{}, i);
-        } else {
-            for (int k = 0; k < packLanes<T>; ++k) body(As<T>{}, i + k);
+    constexpr i32 N = packLanes<T>;
+    for (i32 i = 0; i < count;) {
+        for (; i + N <= count && guard(i); i += N) body(As<Pack<T>>{}, i);
+        for (const i32 end = std::min(count, i + N); i < end; ++i) {
+            asm volatile("");  // a few objects at the most: not worth the compiler's own vectorised loop
+            body(As<T>{}, i);
         }
     }
-    for (; i < count; ++i) body(As<T>{}, i);
 }
 
 }  // namespace vokm

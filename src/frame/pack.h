@@ -36,15 +36,15 @@ template <> struct ElementOf<double> {
 template <class V> using Element = typename ElementOf<V>::type;
 template <class V> constexpr int lanesIn = sizeof(V) / sizeof(Element<V>);
 
-template <class V> inline V loadLanes(const Element<V>* from)
+template <class V> VOKM_INLINE V loadLanes(const Element<V>* from)
 {
     V v{};
     std::memcpy(&v, from, sizeof v);
     return v;
 }
-template <class V> inline void storeLanes(Element<V>* to, V v) { std::memcpy(to, &v, sizeof v); }
+template <class V> VOKM_INLINE void storeLanes(Element<V>* to, V v) { std::memcpy(to, &v, sizeof v); }
 
-template <class V> inline V splat(Element<V> x)
+template <class V> VOKM_INLINE V splat(Element<V> x)
 {
     if constexpr (isPack<V>) {
         V v{};
@@ -102,25 +102,25 @@ inline bool any(M mask)
 //   one(lane, k)        one element
 template <class T> struct Fetch {
     const T* at[packLanes<T>];
-    Pack<T> four(int lane, int k) const { return loadLanes<Pack<T>>(at[lane] + k); }
-    Pack<float> pairs(int a, int b, int k) const
+    VOKM_INLINE Pack<T> four(int lane, int k) const { return loadLanes<Pack<T>>(at[lane] + k); }
+    VOKM_INLINE Pack<float> pairs(int a, int b, int k) const
     {
         const __m128 low = _mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(at[a] + k)));
         return Pack<float>(_mm_loadh_pi(low, reinterpret_cast<const __m64*>(at[b] + k)));
     }
-    T one(int lane, int k) const { return at[lane][k]; }
+    VOKM_INLINE T one(int lane, int k) const { return at[lane][k]; }
 };
 
 /// The products of two runs, formed before they are turned into lanes: half the shuffles.
 template <class T> struct FetchProducts {
     Fetch<T> a, b;
-    Pack<T> four(int lane, int k) const { return a.four(lane, k) * b.four(lane, k); }
-    Pack<float> pairs(int i, int j, int k) const { return a.pairs(i, j, k) * b.pairs(i, j, k); }
-    T one(int lane, int k) const { return a.one(lane, k) * b.one(lane, k); }
+    VOKM_INLINE Pack<T> four(int lane, int k) const { return a.four(lane, k) * b.four(lane, k); }
+    VOKM_INLINE Pack<float> pairs(int i, int j, int k) const { return a.pairs(i, j, k) * b.pairs(i, j, k); }
+    VOKM_INLINE T one(int lane, int k) const { return a.one(lane, k) * b.one(lane, k); }
 };
 
 /// K elements of each object of a pack into K lanes vectors. `packed`: the objects follow one another without a gap.
-template <int K, class Source> inline void turnRuns(Pack<float>* to, const Source& from, bool packed)
+template <int K, class Source> VOKM_INLINE void turnRuns(Pack<float>* to, const Source& from, bool packed)
 {
     int k = 0;
     if constexpr (K == 3) {
@@ -151,9 +151,18 @@ template <int K, class Source> inline void turnRuns(Pack<float>* to, const Sourc
     if constexpr (K % 2 == 1) to[k] = Pack<float>{from.one(0, k), from.one(1, k), from.one(2, k), from.one(3, k)};
 }
 
-template <int K, class Source> inline void turnRuns(Pack<double>* to, const Source& from, bool)
+template <int K, class Source> VOKM_INLINE void turnRuns(Pack<double>* to, const Source& from, bool packed)
 {
     int k = 0;
+    if constexpr (K == 3) {
+        if (packed) {
+            const auto a = from.four(0, 0), b = from.four(0, 2), c = from.four(0, 4);
+            to[0] = __builtin_shufflevector(a, b, 0, 3);
+            to[1] = __builtin_shufflevector(a, c, 1, 2);
+            to[2] = __builtin_shufflevector(b, c, 0, 3);
+            return;
+        }
+    }
     for (; k + 2 <= K; k += 2) {
         const auto a = from.four(0, k), b = from.four(1, k);
         to[k] = __builtin_shufflevector(a, b, 0, 2);
@@ -163,7 +172,7 @@ template <int K, class Source> inline void turnRuns(Pack<double>* to, const Sour
 }
 
 /// The way back: K lane vectors into the runs of a pack's objects, the objects in ascending order within each block.
-template <int K> inline void turnBack(float* const* at, const Pack<float>* from, bool packed)
+template <int K> VOKM_INLINE void turnBack(float* const* at, const Pack<float>* from, bool packed)
 {
     int k = 0;
     if constexpr (K == 3) {
@@ -201,7 +210,7 @@ template <int K> inline void turnBack(float* const* at, const Pack<float>* from,
     }
 }
 
-template <int K> inline void turnBack(double* const* at, const Pack<double>* from, bool)
+template <int K> VOKM_INLINE void turnBack(double* const* at, const Pack<double>* from, bool)
 {
     int k = 0;
     for (; k + 2 <= K; k += 2) {
@@ -214,10 +223,38 @@ template <int K> inline void turnBack(double* const* at, const Pack<double>* fro
     }
 }
 
-/// Whether the same element of neighbouring objects is neighbouring in memory: one plane per element.
-template <class View> inline bool planar(const View& view)
+/// A pointer table read once: the element pointers of R x C objects, behind the shift, in the kernel's own memory.
+template <class T, Code theCode, int R, int C> struct Planes {
+    using element = T;
+    static constexpr Code code = theCode;
+    static constexpr bool array = isArray(code), dense = false;
+    T* at[R * C];
+    i32 stride0;
+
+    VOKM_INLINE explicit Planes(const TableView<T, theCode>& view) : stride0(view.stride0)
+    {
+        for (int k = 0; k < R * C; ++k) at[k] = byBytes(view.table[k], view.shift);
+    }
+    VOKM_INLINE auto object(i32 i, Shape shape) const
+    {
+        constexpr bool transposed = isTransposed(theCode);
+        return TableObject<T, transposed>{at, array ? i64(i) * stride0 : 0, transposed ? shape.rows : shape.cols};
+    }
+};
+
+/// The view as a walk over R x C objects uses it.
+template <int R, int C, class View> VOKM_INLINE auto pinned(const View& view) { return view; }
+template <int R, int C, class T, Code code> VOKM_INLINE auto pinned(const TableView<T, code>& view)
 {
-    if constexpr (View::array && requires { view.stride0; }) {
+    return Planes<T, code, R, C>(view);
+}
+template <int R, int C, class View> using Pinned = decltype(pinned<R, C>(std::declval<View>()));
+
+/// Whether the same element of neighbouring objects is neighbouring in memory: one plane per element. With contiguous rows
+/// that would be windows that slide over one run; they are loaded as any dense objects.
+template <class View> VOKM_INLINE bool planar(const View& view)
+{
+    if constexpr (View::array && !View::dense && requires { view.stride0; }) {
         return view.stride0 == static_cast<i32>(sizeof(typename View::element));
     } else {
         return false;
@@ -225,7 +262,7 @@ template <class View> inline bool planar(const View& view)
 }
 
 /// Whether the objects of K elements follow one another without a gap.
-template <int K, class View> inline bool packedObjects(const View& view)
+template <int K, class View> VOKM_INLINE bool packedObjects(const View& view)
 {
     if constexpr (requires { view.stride0; }) {
         return view.stride0 == K * static_cast<i32>(sizeof(typename View::element));
@@ -234,25 +271,29 @@ template <int K, class View> inline bool packedObjects(const View& view)
     }
 }
 
-/// Stored rows and columns of a logical R x C object.
-template <class View, int R, int C> constexpr int storedRows = isTransposed(View::code) ? C : R;
-template <class View, int R, int C> constexpr int storedCols = isTransposed(View::code) ? R : C;
+/// The first elements of a pack's objects, stored shape R x C.
+template <int R, int C, class View, class T> VOKM_INLINE void firstElements(T** at, const View& view, i32 i)
+{
+    constexpr Shape logical = isTransposed(View::code) ? Shape{C, R} : Shape{R, C};
+    at[0] = &view.object(i, logical)(0, 0);
+    for (int lane = 1; lane < packLanes<std::remove_const_t<T>>; ++lane) {
+        if constexpr (requires { view.stride0; }) {
+            at[lane] = byBytes(at[lane - 1], view.stride0);
+        } else {
+            at[lane] = &view.object(i + lane, logical)(0, 0);
+        }
+    }
+}
 
-/// Calls each(row pointers of the lanes, first element in the tile, elements) for the runs of a pack of dense objects: one
-/// run for the whole object if its rows follow one another, else one a row.
+/// Calls whole(first elements of the lanes' objects) for a pack of dense objects whose rows follow one another, else
+/// byRow(row's first elements, row) for each row.
 template <int R, int C, class View, class Whole, class ByRow>
-inline void overRuns(const View& view, i32 i, Whole whole, ByRow byRow)
+VOKM_INLINE void overRuns(const View& view, i32 i, Whole whole, ByRow byRow)
 {
     using T = typename View::element;
     constexpr int N = packLanes<std::remove_const_t<T>>;
     T* at[N];
-    for (int lane = 0; lane < N; ++lane) {
-        if constexpr (isTransposed(View::code)) {
-            at[lane] = &view.object(i + lane, Shape{C, R})(0, 0);
-        } else {
-            at[lane] = &view.object(i + lane, Shape{R, C})(0, 0);
-        }
-    }
+    firstElements<R, C>(at, view, i);
     if (R == 1 || view.stride1 == C * static_cast<i32>(sizeof(T))) return whole(at);
     for (int r = 0; r < R; ++r) {
         byRow(at, r);
@@ -260,20 +301,20 @@ inline void overRuns(const View& view, i32 i, Whole whole, ByRow byRow)
     }
 }
 
-template <int R, int C, class T, class View> inline void loadStored(Pack<T> (&tile)[R][C], const View& view, i32 i)
+template <int R, int C, class T, class View> VOKM_INLINE void loadStored(Pack<T> (&tile)[R][C], const View& view, i32 i)
 {
-    const auto fetch = [](auto* const* at) {
+    const auto fetch = [](auto* const* at) VOKM_INLINE_LAMBDA {
         Fetch<T> from;
         for (int lane = 0; lane < packLanes<T>; ++lane) from.at[lane] = at[lane];
         return from;
     };
     overRuns<R, C>(
-        view, i, [&](auto* const* at) { turnRuns<R * C>(&tile[0][0], fetch(at), packedObjects<R * C>(view)); },
-        [&](auto* const* at, int r) { turnRuns<C>(tile[r], fetch(at), false); });
+        view, i, [&](auto* const* at) VOKM_INLINE_LAMBDA { turnRuns<R * C>(&tile[0][0], fetch(at), packedObjects<R * C>(view)); },
+        [&](auto* const* at, int r) VOKM_INLINE_LAMBDA { turnRuns<C>(tile[r], fetch(at), false); });
 }
 
 /// Element (r, c) of the objects of a pack, lane by lane.
-template <class V, class View> inline V gather(const View& view, i32 i, Shape shape, int r, int c)
+template <class V, class View> VOKM_INLINE V gather(const View& view, i32 i, Shape shape, int r, int c)
 {
     V v{};
     for (int lane = 0; lane < lanesIn<V>; ++lane) v[lane] = view.object(i + lane, shape)(r, c);
@@ -281,7 +322,7 @@ template <class V, class View> inline V gather(const View& view, i32 i, Shape sh
 }
 
 /// Loads object i, or the pack of objects from i on; a single operand goes to every lane.
-template <class V, int R, int C, class View> inline void load(V (&tile)[R][C], const View& view, i32 i)
+template <class V, int R, int C, class View> VOKM_INLINE void load(V (&tile)[R][C], const View& view, i32 i)
 {
     constexpr Shape shape{R, C};
     if constexpr (!isPack<V> || !View::array) {
@@ -317,7 +358,7 @@ template <class V, int R, int C, class View> inline void load(V (&tile)[R][C], c
 }
 
 /// Stores object i, or the pack of objects from i on.
-template <class V, int R, int C, class View> inline void store(const V (&tile)[R][C], const View& view, i32 i)
+template <class V, int R, int C, class View> VOKM_INLINE void store(const V (&tile)[R][C], const View& view, i32 i)
 {
     constexpr Shape shape{R, C};
     if constexpr (!isPack<V>) {
@@ -332,8 +373,8 @@ template <class V, int R, int C, class View> inline void store(const V (&tile)[R
         }
     } else if constexpr (View::dense) {
         overRuns<R, C>(
-            view, i, [&](auto* const* at) { turnBack<R * C>(at, &tile[0][0], packedObjects<R * C>(view)); },
-            [&](auto* const* at, int r) { turnBack<C>(at, tile[r], false); });
+            view, i, [&](auto* const* at) VOKM_INLINE_LAMBDA { turnBack<R * C>(at, &tile[0][0], packedObjects<R * C>(view)); },
+            [&](auto* const* at, int r) VOKM_INLINE_LAMBDA { turnBack<C>(at, tile[r], false); });
     } else {
         for (int lane = 0; lane < lanesIn<V>; ++lane) {
             const auto object = view.object(i + lane, shape);
@@ -344,17 +385,21 @@ template <class V, int R, int C, class View> inline void store(const V (&tile)[R
     }
 }
 
+template <int n, class A, class B> VOKM_INLINE auto fetchProducts(const A& a, const B& b, i32 i)
+{
+    FetchProducts<std::remove_const_t<typename A::element>> from;
+    firstElements<1, n>(from.a.at, a, i);
+    firstElements<1, n>(from.b.at, b, i);
+    return from;
+}
+
 /// The products of the elements of two vectors, for object i or the pack from i on.
-template <class V, int n, class A, class B> inline void loadProducts(V (&products)[n], const A& a, const B& b, i32 i)
+template <class V, int n, class A, class B> VOKM_INLINE void loadProducts(V (&products)[n], const A& a, const B& b, i32 i)
 {
     using T = Element<V>;
     if constexpr (isPack<V> && A::array && B::array && A::dense && B::dense) {
         if (!planar(a) && !planar(b)) {
-            FetchProducts<T> from;
-            for (int lane = 0; lane < packLanes<T>; ++lane) {
-                from.a.at[lane] = &a.object(i + lane, Shape{1, n})(0, 0);
-                from.b.at[lane] = &b.object(i + lane, Shape{1, n})(0, 0);
-            }
+            const FetchProducts<T> from = fetchProducts<n>(a, b, i);
             return turnRuns<n>(products, from, packedObjects<n>(a) && packedObjects<n>(b));
         }
     }
@@ -370,7 +415,7 @@ template <class V> struct As {
 };
 
 /// Walks the objects in ascending order: body(As<V>, i) for packs as long as there are whole ones (if wanted), then one by one.
-template <class T, class Body> inline void walk(i32 count, bool packs, Body body)
+template <class T, class Body> VOKM_INLINE void walk(i32 count, bool packs, Body body)
 {
     i32 i = 0;
     if (packs) {

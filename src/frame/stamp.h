@@ -4,7 +4,7 @@
 // what differs between the forms, mostly operand codes):
 //   SHAPE_PARAMS  the parameter list of the exported function, as the public header declares it
 //   SHAPE_ARGS    the same arguments as views
-//   SHAPE_TYPES   the parameter list of the kernels; its first argument is Dense or Same
+//   SHAPE_TYPES   the parameter list of the kernels; its first argument is DenseArgument or Argument
 //   SHAPE_NAMES   the names of those parameters
 //   SHAPE_KERNEL  the expression that does the work over them; takes row, element type and Variant in front
 // A *form* line is FORM(family, form, row, SHAPE, ...what SHAPE takes behind layout and type).
@@ -71,27 +71,30 @@
 #define VOKM_WRAPPER(fam, form, ty, suffix) ownOMP_vokm##fam##_##form##_##ty##suffix
 #define VOKM_EXPORT(fam, form, ty, suffix) vokm##fam##_##form##_##ty##suffix
 
+// Kernels and wrappers stay functions of their own, so that a profiler or a debugger shows the names that are documented.
+#define VOKM_NAMED [[gnu::noinline]] vokStatus
+
 // Declarations of kernels: two per stride or list layout, one per pointer layout.
 #define VOKM_DECLARE_TWO(fam, form, row, L, ty, T, exp, k1, k2, SHAPE, ...)                  \
-    vokStatus VOKM_KERNEL(fam, form, ty, k1)(SHAPE##_TYPES(vokm::Dense, L, T, __VA_ARGS__)); \
-    vokStatus VOKM_KERNEL(fam, form, ty, k2)(SHAPE##_TYPES(vokm::Same, L, T, __VA_ARGS__));
+    VOKM_NAMED VOKM_KERNEL(fam, form, ty, k1)(SHAPE##_TYPES(vokm::DenseArgument, L, T, __VA_ARGS__)); \
+    VOKM_NAMED VOKM_KERNEL(fam, form, ty, k2)(SHAPE##_TYPES(vokm::Argument, L, T, __VA_ARGS__));
 #define VOKM_DECLARE_ONE(fam, form, row, L, ty, T, exp, k1, k2, SHAPE, ...) \
-    vokStatus VOKM_KERNEL(fam, form, ty, k1)(SHAPE##_TYPES(vokm::Same, L, T, __VA_ARGS__));
+    VOKM_NAMED VOKM_KERNEL(fam, form, ty, k1)(SHAPE##_TYPES(vokm::Argument, L, T, __VA_ARGS__));
 #define VOKM_DECLARE_OMP(fam, form, row, L, ty, T, exp, k1, k2, SHAPE, ...) \
-    vokStatus VOKM_WRAPPER(fam, form, ty, exp)(SHAPE##_TYPES(vokm::Same, L, T, __VA_ARGS__));
+    VOKM_NAMED VOKM_WRAPPER(fam, form, ty, exp)(SHAPE##_TYPES(vokm::Argument, L, T, __VA_ARGS__));
 
 // Kernels.
 #define VOKM_DEFINE_TWO(fam, form, row, L, ty, T, exp, k1, k2, SHAPE, ...)                  \
-    vokStatus VOKM_KERNEL(fam, form, ty, k1)(SHAPE##_TYPES(vokm::Dense, L, T, __VA_ARGS__)) \
+    vokStatus VOKM_KERNEL(fam, form, ty, k1)(SHAPE##_TYPES(vokm::DenseArgument, L, T, __VA_ARGS__)) \
     {                                                                                       \
         return SHAPE##_KERNEL(row, T, VOKM_VARIANT##k1, __VA_ARGS__);                       \
     }                                                                                       \
-    vokStatus VOKM_KERNEL(fam, form, ty, k2)(SHAPE##_TYPES(vokm::Same, L, T, __VA_ARGS__))  \
+    vokStatus VOKM_KERNEL(fam, form, ty, k2)(SHAPE##_TYPES(vokm::Argument, L, T, __VA_ARGS__))  \
     {                                                                                       \
         return SHAPE##_KERNEL(row, T, VOKM_VARIANT##k2, __VA_ARGS__);                       \
     }
 #define VOKM_DEFINE_ONE(fam, form, row, L, ty, T, exp, k1, k2, SHAPE, ...)                 \
-    vokStatus VOKM_KERNEL(fam, form, ty, k1)(SHAPE##_TYPES(vokm::Same, L, T, __VA_ARGS__)) \
+    vokStatus VOKM_KERNEL(fam, form, ty, k1)(SHAPE##_TYPES(vokm::Argument, L, T, __VA_ARGS__)) \
     {                                                                                      \
         return SHAPE##_KERNEL(row, T, VOKM_VARIANT##k1, __VA_ARGS__);                      \
     }
@@ -103,7 +106,7 @@
 
 // Wrappers.
 #define VOKM_OMP(fam, form, row, L, ty, T, exp, k1, k2, SHAPE, ...)                                           \
-    vokStatus VOKM_WRAPPER(fam, form, ty, exp)(SHAPE##_TYPES(vokm::Same, L, T, __VA_ARGS__))                  \
+    vokStatus VOKM_WRAPPER(fam, form, ty, exp)(SHAPE##_TYPES(vokm::Argument, L, T, __VA_ARGS__))                  \
     {                                                                                                         \
         return vokm::parallel<row, T, VOKM_KERNEL(fam, form, ty, k1), VOKM_KERNEL(fam, form, ty, k2)>(        \
             SHAPE##_NAMES(__VA_ARGS__));                                                                      \

@@ -16,7 +16,7 @@ enum class Order {
     rising,        // from 0.0, ascending
 };
 
-template <Order order, class V, int n> inline V sum(const V (&p)[n])
+template <Order order, class V, int n> [[gnu::always_inline]] inline V sum(const V (&p)[n])
 {
     if constexpr (order == Order::pairwise || order == Order::mixed) {
         if constexpr (n == 4) return (p[0] + p[1]) + (p[2] + p[3]);

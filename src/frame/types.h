@@ -40,8 +40,13 @@ struct Wrap {
     friend constexpr Wrap operator*(Wrap a, Wrap b) { return Wrap(static_cast<i32>(a.bits * b.bits)); }
 };
 
+// Stores of whole registers may alias anything, so a view that lives in memory would be read again behind each of them. What
+// stands between a kernel's own copy of a view and its loads and stores is therefore always inlined.
+#define VOKM_INLINE [[gnu::always_inline]] inline
+#define VOKM_INLINE_LAMBDA __attribute__((always_inline))
+
 /// Moves a pointer by a distance in bytes.
-template <class T> inline T* byBytes(T* pointer, i64 bytes)
+template <class T> VOKM_INLINE T* byBytes(T* pointer, i64 bytes)
 {
     return reinterpret_cast<T*>(reinterpret_cast<std::uintptr_t>(pointer) + static_cast<std::uintptr_t>(bytes));
 }

@@ -21,7 +21,7 @@ enum class Unit { none, column, row };
 template <class T, Unit unit> struct StridedObject {
     T* base;
     i64 rowStep, colStep;
-    T& operator()(i32 r, i32 c) const
+    VOKM_INLINE T& operator()(i32 r, i32 c) const
     {
         constexpr i64 E = sizeof(T);
         return *byBytes(base, r * (unit == Unit::row ? E : rowStep) + c * (unit == Unit::column ? E : colStep));
@@ -33,16 +33,16 @@ template <class T, bool transposed> struct TableObject {
     T* const* table;
     i64 shift;
     i32 width;  // of a stored row
-    T& operator()(i32 r, i32 c) const { return *byBytes(table[transposed ? c * width + r : r * width + c], shift); }
+    VOKM_INLINE T& operator()(i32 r, i32 c) const { return *byBytes(table[transposed ? c * width + r : r * width + c], shift); }
 };
 
 /// One constant, the same at every position.
 template <class T> struct ConstantObject {
     T value;
-    T operator()(i32, i32) const { return value; }
+    VOKM_INLINE T operator()(i32, i32) const { return value; }
 };
 
-template <class T, Code code, bool denseRows> constexpr auto stridedObject(T* base, i32 stride1, i32 stride2)
+template <class T, Code code, bool denseRows> VOKM_INLINE auto stridedObject(T* base, i32 stride1, i32 stride2)
 {
     if constexpr (code == Code::ca) {
         return ConstantObject<std::remove_const_t<T>>{*base};
@@ -80,7 +80,7 @@ template <class T, Code theCode, bool denseRows = false> struct StrideView : Inn
     bool badShift() const { return false; }
     StrideView<T, theCode, true> asDense() const { return {base, stride0, stride1, stride2}; }
     StrideView from(i32 start) const { return {array ? byBytes(base, i64(start) * stride0) : base, stride0, stride1, stride2}; }
-    auto object(i32 i, Shape) const
+    VOKM_INLINE auto object(i32 i, Shape) const
     {
         return stridedObject<T, theCode, denseRows>(array ? byBytes(base, i64(i) * stride0) : base, stride1, stride2);
     }
@@ -99,7 +99,7 @@ template <class T, Code theCode, bool denseRows = false> struct ListView : Inner
     bool badShift() const { return vokm::badShift<T>(shift); }
     ListView<T, theCode, true> asDense() const { return {list, shift, stride1, stride2}; }
     ListView from(i32 start) const { return {list + start, shift, stride1, stride2}; }
-    auto object(i32 i, Shape) const
+    VOKM_INLINE auto object(i32 i, Shape) const
     {
         return stridedObject<T, theCode, denseRows>(byBytes(list[i], shift), stride1, stride2);
     }
@@ -120,7 +120,7 @@ template <class T, Code theCode> struct TableView {
     bool badShift() const { return vokm::badShift<T>(shift); }
     TableView asDense() const { return *this; }
     TableView from(i32 start) const { return {table, array ? (Wrap(shift) + Wrap(start) * stride0).value() : shift, stride0}; }
-    auto object(i32 i, Shape shape) const
+    VOKM_INLINE auto object(i32 i, Shape shape) const
     {
         constexpr bool transposed = isTransposed(theCode);
         const i64 distance = shift + (array ? i64(i) * stride0 : 0);
@@ -134,7 +134,7 @@ template <class T> struct Constant {
     static constexpr Code code = Code::c;
     static constexpr bool array = false, dense = true;
     T value;
-    auto object(i32, Shape) const { return ConstantObject<std::remove_const_t<T>>{value}; }
+    VOKM_INLINE auto object(i32, Shape) const { return ConstantObject<std::remove_const_t<T>>{value}; }
 };
 
 /// A plain pointer to `per` elements for each object, packed: scalar results, eigenvalues, pivot index arrays.
@@ -194,7 +194,10 @@ template <class A> constexpr auto dense(const A& a)
     }
 }
 template <class A> using Dense = decltype(dense(std::declval<A>()));
-template <class A> using Same = A;
+// As parameters of a named function: by reference, since a view copied to the next frame as a whole would have to wait for
+// its fields to be stored one by one.
+template <class A> using DenseArgument = const Dense<A>&;
+template <class A> using Argument = const A&;
 
 template <class A> bool contiguous(const A& a)
 {

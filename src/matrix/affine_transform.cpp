@@ -12,20 +12,20 @@
 
 namespace vokm {
 
-template <Variant variant, class V, class H> inline V coordinate(const H& a, int r, const V (&p)[1][3])
+template <Variant variant, class V, class H> VOKM_INLINE V coordinate(const H& a, int r, const V (&p)[1][3])
 {
-    const auto at = [&](int c) { return a.template at<V>(r, c); };
+    const auto at = [&](int c) VOKM_INLINE_LAMBDA { return a.template at<V>(r, c); };
     if constexpr (variant == Variant::plain) return (at(0) * p[0][0] + at(1) * p[0][1]) + (at(2) * p[0][2] + at(3));
     return ((at(0) * p[0][0] + at(3)) + at(1) * p[0][1]) + at(2) * p[0][2];
 }
 
-template <Variant variant, class M, class A, class D> vokStatus transform(const M& src1, const A& src2, const D& dst, i32 count)
+template <Variant variant, class M, class A, class D> VOKM_INLINE vokStatus transform(M src1, A src2, D dst, i32 count)
 {
     using T = float;
     const Held<T, 4, 4, M> a(src1, count >= packLanes<T>);
     vokStatus status = vokStatusOk;
     // Returns whether every w was large enough; if not, nothing is stored.
-    const auto regular = [&](auto as, i32 i) {
+    const auto regular = [&](auto as, i32 i) VOKM_INLINE_LAMBDA {
         using V = typename decltype(as)::type;
         V p[1][3], d[1][3];
         load(p, src2, i);
@@ -36,14 +36,15 @@ template <Variant variant, class M, class A, class D> vokStatus transform(const 
         store(d, dst, i);
         return true;
     };
-    const auto one = [&](i32 i) {
+    const auto one = [&](i32 i) VOKM_INLINE_LAMBDA {
         if (regular(As<T>{}, i)) return;
         const T largest[1][3] = {{FLT_MAX, FLT_MAX, FLT_MAX}};
         store(largest, dst, i);
         status = vokStatusDivideByZero;
     };
-    const auto guard = packGuard(count, Shaped<D>{dst, {1, 3}}, Shaped<A>{src2, {1, 3}});
-    walkGuarded<T>(count, guard, [&](auto as, i32 i) {
+    const auto guard = lazyGuard<T>(
+        count, [&]() VOKM_INLINE_LAMBDA { return packGuard(count, Shaped<D>{dst, {1, 3}}, Shaped<A>{src2, {1, 3}}); });
+    walkGuarded<T>(count, guard, [&](auto as, i32 i) VOKM_INLINE_LAMBDA {
         using V = typename decltype(as)::type;
         if constexpr (isPack<V>) {
             if (regular(as, i)) return;

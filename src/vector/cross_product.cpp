@@ -6,28 +6,34 @@
 
 namespace vokm {
 
-template <class V> inline void cross(const V (&a)[1][3], const V (&b)[1][3], V (&d)[1][3])
+template <class V> VOKM_INLINE void cross(const V (&a)[1][3], const V (&b)[1][3], V (&d)[1][3])
 {
     d[0][0] = a[0][1] * b[0][2] - a[0][2] * b[0][1];
     d[0][1] = a[0][2] * b[0][0] - a[0][0] * b[0][2];
     d[0][2] = a[0][0] * b[0][1] - a[0][1] * b[0][0];
 }
 
-template <class T, class A, class B, class D> vokStatus crossProducts(const A& src1, const B& src2, const D& dst, i32 count)
+template <class T, class A, class B, class D> VOKM_INLINE vokStatus crossProducts(A src1, B src2, D dst, i32 count)
 {
     constexpr Shape three{1, 3};
     const bool packs = count >= packLanes<T>;
     const HeldIfSingle<T, 1, 3, A> held1(src1, packs);
     const HeldIfSingle<T, 1, 3, B> held2(src2, packs);
-    const auto work = [&](auto as, i32 i) {
+    const auto a1 = pinned<1, 3>(src1);
+    const auto a2 = pinned<1, 3>(src2);
+    const auto to = pinned<1, 3>(dst);
+    const auto work = [&](auto as, i32 i) VOKM_INLINE_LAMBDA {
         typename decltype(as)::type a[1][3], b[1][3], d[1][3];
-        loadOrHeld(a, src1, held1, i);
-        loadOrHeld(b, src2, held2, i);
+        loadOrHeld(a, a1, held1, i);
+        loadOrHeld(b, a2, held2, i);
         cross(a, b, d);
-        store(d, dst, i);
+        store(d, to, i);
     };
     if constexpr (D::array) {
-        walkGuarded<T>(count, packGuard(count, Shaped<D>{dst, three}, Shaped<A>{src1, three}, Shaped<B>{src2, three}), work);
+        const auto guard = lazyGuard<T>(count, [&]() VOKM_INLINE_LAMBDA {
+            return packGuard(count, Shaped<D>{dst, three}, Shaped<A>{src1, three}, Shaped<B>{src2, three});
+        });
+        walkGuarded<T>(count, guard, work);
     } else {
         work(As<T>{}, 0);
     }

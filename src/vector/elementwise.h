@@ -11,25 +11,40 @@
 
 namespace vokm {
 
+/// A scalar for every lane, spread before the loops.
+template <class T> struct Spread {
+    T one;
+    Pack<T> all;
+    VOKM_INLINE Spread(T x) : one(x), all(splat<Pack<T>>(x)) {}
+    template <class V> VOKM_INLINE V as() const
+    {
+        if constexpr (isPack<V>) {
+            return all;
+        } else {
+            return one;
+        }
+    }
+};
+
 struct Plus {
-    template <class V> V operator()(V a, V b) const { return a + b; }
+    template <class V> VOKM_INLINE V operator()(V a, V b) const { return a + b; }
 };
 struct Minus {
-    template <class V> V operator()(V a, V b) const { return a - b; }
+    template <class V> VOKM_INLINE V operator()(V a, V b) const { return a - b; }
 };
 struct MinusFrom {  // the operand that stands first in the argument list is subtracted from the second
-    template <class V> V operator()(V a, V b) const { return b - a; }
+    template <class V> VOKM_INLINE V operator()(V a, V b) const { return b - a; }
 };
 struct Times {
-    template <class V> V operator()(V a, V b) const { return a * b; }
+    template <class V> VOKM_INLINE V operator()(V a, V b) const { return a * b; }
 };
 template <class T> struct ScaleAdd {
-    T val;
-    template <class V> V operator()(V a, V b) const { return a * splat<V>(val) + b; }
+    Spread<T> val;
+    template <class V> VOKM_INLINE V operator()(V a, V b) const { return a * val.template as<V>() + b; }
 };
 template <class T> struct Combine {
-    T val1, val2;
-    template <class V> V operator()(V a, V b) const { return a * splat<V>(val1) + b * splat<V>(val2); }
+    Spread<T> val1, val2;
+    template <class V> VOKM_INLINE V operator()(V a, V b) const { return a * val1.template as<V>() + b * val2.template as<V>(); }
 };
 
 /// The sizes with a path, by kernel; of these, `anew` those that read a single operand for each object again.
@@ -64,7 +79,7 @@ template <class View> inline bool oneRun(const View& view, Shape shape)
     }
 }
 
-template <class V, class View> inline V fromRun(const View& view, i64 j)
+template <class V, class View> VOKM_INLINE V fromRun(const View& view, i64 j)
 {
     if constexpr (View::code == Code::c) {
         return splat<V>(view.value);
@@ -75,7 +90,7 @@ template <class V, class View> inline V fromRun(const View& view, i64 j)
 
 /// Arrays (and constants) that are one run each: one long vector.
 template <class T, class Op, class A, class B, class D>
-inline void longRun(Op op, const A& a, const B& b, const D& dst, i64 elements)
+inline void longRun(Op op, A a, B b, D dst, i64 elements)
 {
     constexpr i64 N = packLanes<T>, step = 4 * N;
     i64 j = 0;
@@ -97,16 +112,16 @@ template <class T, int R, int C, class View> struct Pattern {
         load(tile, view, 0);
         for (int j = 0; j < length; ++j) repeated[j] = (&tile[0][0])[j % K];
     }
-    template <class V> V at(const View&, i64, int k) const { return loadLanes<V>(repeated + k); }
+    template <class V> VOKM_INLINE V at(const View&, i64, int k) const { return loadLanes<V>(repeated + k); }
 };
 template <class View> struct RunAlong {
     explicit RunAlong(const View&) {}
-    template <class V> V at(const View& view, i64 j, int k) const { return fromRun<V>(view, j + k); }
+    template <class V> VOKM_INLINE V at(const View& view, i64 j, int k) const { return fromRun<V>(view, j + k); }
 };
 template <class View> constexpr bool isSingleOperand = !View::array && View::code != Code::c;
 
 template <class T, int R, int C, class Op, class A, class B, class D>
-inline void patternRun(Op op, const A& a, const B& b, const D& dst, i32 count)
+inline void patternRun(Op op, A a, B b, D dst, i32 count)
 {
     using OfA = std::conditional_t<isSingleOperand<A>, Pattern<T, R, C, A>, RunAlong<A>>;
     using OfB = std::conditional_t<isSingleOperand<B>, Pattern<T, R, C, B>, RunAlong<B>>;
@@ -124,14 +139,15 @@ inline void patternRun(Op op, const A& a, const B& b, const D& dst, i32 count)
 }
 
 template <const Paths& paths, Variant variant, class T, class Op, class A, class B, class D>
-inline vokStatus elementwise(Op op, const A& a, const B& b, const D& dst, Shape shape, i32 count)
+VOKM_INLINE vokStatus elementwise(Op op, A a, B b, D dst, Shape shape, i32 count)
 {
-    const Shaped<A> ofA{a, shape};
-    const Shaped<B> ofB{b, shape};
-    const Shaped<D> ofD{dst, shape};
-    const auto general = [&]() -> vokStatus {
+    const auto apart = [&]() VOKM_INLINE_LAMBDA {
+        return separate(count, Shaped<D>{dst, shape}, Shaped<A>{a, shape}) &&
+               separate(count, Shaped<D>{dst, shape}, Shaped<B>{b, shape});
+    };
+    const auto general = [&]() VOKM_INLINE_LAMBDA -> vokStatus {
         if constexpr (!isSingleOperand<A> && !isSingleOperand<B>) {
-            if (oneRun(a, shape) && oneRun(b, shape) && oneRun(dst, shape) && separate(count, ofD, ofA) && separate(count, ofD, ofB)) {
+            if (oneRun(a, shape) && oneRun(b, shape) && oneRun(dst, shape) && apart()) {
                 if constexpr (requires { dst.base; }) longRun<T>(op, a, b, dst, i64(count) * shape.elements());
                 return vokStatusOk;
             }
@@ -146,13 +162,13 @@ inline vokStatus elementwise(Op op, const A& a, const B& b, const D& dst, Shape 
         }
         return vokStatusOk;
     };
-    const auto fixed = [&](auto size) -> vokStatus {
+    const auto fixed = [&](auto size) VOKM_INLINE_LAMBDA -> vokStatus {
         constexpr int C = decltype(size)::value, R = isMatrix(D::code) ? C : 1;
         constexpr bool hasPath = paths.of(variant).sizes.has(C), anew = paths.of(variant).anew.has(C);
         if constexpr (D::array && D::dense) {
             const bool runs = (isSingleOperand<A> || oneRun(a, shape)) && (isSingleOperand<B> || oneRun(b, shape)) &&
                               oneRun(dst, shape) && count > 1;
-            if (runs && separate(count, ofD, ofA) && separate(count, ofD, ofB)) {
+            if (runs && apart()) {
                 if constexpr (requires { dst.base; } && A::code != Code::ca && B::code != Code::ca &&
                               !(isTransposed(A::code) && A::array) && !(isTransposed(B::code) && B::array)) {
                     if constexpr (isSingleOperand<A> || isSingleOperand<B>) {
@@ -164,21 +180,24 @@ inline vokStatus elementwise(Op op, const A& a, const B& b, const D& dst, Shape 
                 }
             }
         }
-        const auto work = [&](auto as, const auto& heldA, const auto& heldB, i32 i) {
+        const auto pinA = pinned<R, C>(a);
+        const auto pinB = pinned<R, C>(b);
+        const auto pinD = pinned<R, C>(dst);
+        const auto work = [&](auto as, const auto& heldA, const auto& heldB, i32 i) VOKM_INLINE_LAMBDA {
             using V = typename decltype(as)::type;
             V x[R][C], y[R][C], z[R][C];
-            loadOrHeld(x, a, heldA, i);
-            loadOrHeld(y, b, heldB, i);
+            loadOrHeld(x, pinA, heldA, i);
+            loadOrHeld(y, pinB, heldB, i);
             for (int r = 0; r < R; ++r) {
                 for (int c = 0; c < C; ++c) z[r][c] = op(x[r][c], y[r][c]);
             }
-            store(z, dst, i);
+            store(z, pinD, i);
         };
         if (planar(dst) && (!A::array || planar(a)) && (!B::array || planar(b)) && count >= packLanes<T> &&
-            separate(count, ofD, ofA) && separate(count, ofD, ofB) && resultsApartIfArray(ofD)) {
+            apart() && resultsApartIfArray(Shaped<D>{dst, shape})) {
             const HeldIfSingle<T, R, C, A> heldA(a, true);
             const HeldIfSingle<T, R, C, B> heldB(b, true);
-            walk<T>(count, true, [&](auto as, i32 i) { work(as, heldA, heldB, i); });
+            walk<T>(count, true, [&](auto as, i32 i) VOKM_INLINE_LAMBDA { work(as, heldA, heldB, i); });
         } else if constexpr (!hasPath) {
             return general();
         } else if constexpr (anew) {

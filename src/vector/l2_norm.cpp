@@ -14,7 +14,7 @@ constexpr SumRow normVa{{{Order::chain, Order::chain, Order::pairwise, Order::ev
 constexpr SumRow normVa64{normVa.dense32, normDense64, normStrided, normStrided};
 
 template <const SumRow& row, Variant variant, class A, class T>
-vokStatus normsOf(const A& src, const Packed<T>& dst, i32 n, i32 count, i32 block)
+VOKM_INLINE vokStatus normsOf(const A& src, const Packed<T>& dst, i32 n, i32 count, i32 block)
 {
     constexpr bool dense = variant == Variant::plain || variant == Variant::L;
     const auto finish = [](auto s) {
@@ -34,12 +34,13 @@ vokStatus normsOf(const A& src, const Packed<T>& dst, i32 n, i32 count, i32 bloc
                                    });
 }
 
-template <Variant variant, class A, class T> vokStatus norm(const A& src, const Packed<T>& dst, const Sizes<1>& sizes)
+template <Variant variant, class A, class T> VOKM_INLINE vokStatus norm(const A& src, const Packed<T>& dst, const Sizes<1>& sizes)
 {
     return normsOf<normV, variant>(src, dst, sizes[0], 1, 0);
 }
 
-template <Variant variant, class A, class T> vokStatus norms(const A& src, const Packed<T>& dst, const Sizes<1>& sizes, Count count)
+template <Variant variant, class A, class T>
+VOKM_INLINE vokStatus norms(const A& src, const Packed<T>& dst, const Sizes<1>& sizes, Count count)
 {
     if constexpr (sizeof(T) == 4 && (variant == Variant::plain || variant == Variant::L)) {
         return normsOf<normVa, variant>(src, dst, sizes[0], count.n, count.n & ~3);

@@ -31,12 +31,35 @@ struct SumRow {
     }
 };
 
+/// The sums of a pack of two objects whose order keeps even and odd terms apart: formed across each object's own registers,
+/// so that only the two partial sums of an object are turned into lanes. The terms are the products of two dense arrays.
+template <Order order, int n, class A, class B> VOKM_INLINE Pack<double> foldedSum(const A& a, const B& b, i32 i)
+{
+    const auto from = fetchProducts<n>(a, b, i);
+    Pack<double> partial[2];
+    for (int lane = 0; lane < 2; ++lane) {
+        if constexpr (n == 6 && order == Order::evenOddInner) {
+            partial[lane] = from.four(lane, 0) + (from.four(lane, 2) + from.four(lane, 4));
+        } else {
+            partial[lane] = from.four(lane, 0) + from.four(lane, 2);
+            if constexpr (n == 6) partial[lane] = partial[lane] + from.four(lane, 4);
+        }
+    }
+    const Pack<double> even = __builtin_shufflevector(partial[0], partial[1], 0, 2);
+    const Pack<double> odd = __builtin_shufflevector(partial[0], partial[1], 1, 3);
+    if constexpr (n != 5) return even + odd;
+    const Pack<double> last{from.one(0, 4), from.one(1, 4)};
+    return order == Order::evenOddTail ? (even + odd) + last : (even + last) + odd;
+}
+template <Order order, int n> constexpr bool folds =
+    n > 3 && (order == Order::evenOdd || (order == Order::evenOddTail && n == 5) || (order == Order::evenOddInner && n == 6));
+
 /// The terms of a dot product.
 template <class A, class B> struct Products {
-    static constexpr bool packable = true;
+    static constexpr bool folds = A::array && B::array && A::dense && B::dense;
     A a;
     B b;
-    template <class V, int n, class H> void fixedTerms(V (&p)[n], const H& held, i32 i) const
+    template <class V, int n, class H> VOKM_INLINE void fixedTerms(V (&p)[n], const H& held, i32 i) const
     {
         if constexpr (B::array) {
             loadProducts(p, a, b, i);
@@ -50,27 +73,32 @@ template <class A, class B> struct Products {
     {
         return [x = a.object(i, Shape{1, n}), y = b.object(i, Shape{1, n})](i32 j) { return x(0, j) * y(0, j); };
     }
-    template <class T, int n> auto held(bool packs) const { return HeldIfSingle<T, 1, n, B>(b, packs); }
-    template <class D> auto guard(i32 count, const D& dst, i32 n) const
+    template <class T, int n> VOKM_INLINE auto held(bool packs) const { return HeldIfSingle<T, 1, n, B>(b, packs); }
+    template <class D> VOKM_INLINE auto guard(i32 count, const D& dst, i32 n) const
     {
         return packGuard(count, Shaped<D>{dst, {1, 1}}, Shaped<A>{a, {1, n}}, Shaped<B>{b, {1, n}});
     }
+    template <Order order, int n> VOKM_INLINE auto folded(i32 i) const { return foldedSum<order, n>(a, b, i); }
+    template <int n> VOKM_INLINE auto pin() const { return Products<Pinned<1, n, A>, Pinned<1, n, B>>{pinned<1, n>(a), pinned<1, n>(b)}; }
     const auto& lead() const { return b; }  // the operand whose alignment decides the head of a long sum
 };
 
 /// The terms of a norm.
 template <class A> struct Squares {
+    static constexpr bool folds = A::array && A::dense;
     A a;
-    template <class V, int n, class H> void fixedTerms(V (&p)[n], const H&, i32 i) const { loadProducts(p, a, a, i); }
+    template <class V, int n, class H> VOKM_INLINE void fixedTerms(V (&p)[n], const H&, i32 i) const { loadProducts(p, a, a, i); }
     auto term(i32 i, i32 n) const
     {
         return [x = a.object(i, Shape{1, n})](i32 j) { return x(0, j) * x(0, j); };
     }
-    template <class T, int n> auto held(bool packs) const { return NothingHeld(a, packs); }
-    template <class D> auto guard(i32 count, const D& dst, i32 n) const
+    template <class T, int n> VOKM_INLINE auto held(bool packs) const { return NothingHeld(a, packs); }
+    template <class D> VOKM_INLINE auto guard(i32 count, const D& dst, i32 n) const
     {
         return packGuard(count, Shaped<D>{dst, {1, 1}}, Shaped<A>{a, {1, n}});
     }
+    template <Order order, int n> VOKM_INLINE auto folded(i32 i) const { return foldedSum<order, n>(a, a, i); }
+    template <int n> VOKM_INLINE auto pin() const { return Squares<Pinned<1, n, A>>{pinned<1, n>(a)}; }
     const auto& lead() const { return a; }
 };
 
@@ -119,19 +147,23 @@ template <class T, class Terms> inline T longSum(const Terms& terms, i32 n)
 /// The reductions of `count` vectors of length n. `finish` turns the sum at a fixed length into the result, `finishOther` the
 /// sum at any other; `block` is the number of leading objects that sum in the row's block order at its block length.
 template <const SumRow& row, Variant variant, class T, class Terms, class Finish, class FinishOther, class Other>
-inline vokStatus reduce(const Terms& terms, const Packed<T>& dst, i32 n, i32 count, i32 block, Finish finish,
+VOKM_INLINE vokStatus reduce(Terms terms, Packed<T> dst, i32 n, i32 count, i32 block, Finish finish,
                         FinishOther finishOther, Other other)
 {
-    const auto fixed = [&](auto length) -> vokStatus {
+    const auto fixed = [&](auto length) VOKM_INLINE_LAMBDA -> vokStatus {
         constexpr int k = decltype(length)::value;
         constexpr Order order = row.order<T>(variant, k);
         const StrideView<T, Code::va> results(dst.base, sizeof(T), 0, sizeof(T));
-        const auto guard = terms.guard(count, results, k);
+        const auto guard = lazyGuard<T>(count, [&]() VOKM_INLINE_LAMBDA { return terms.guard(count, results, k); });
         const auto held = terms.template held<T, k>(count >= packLanes<T>);
-        walkGuarded<T>(count, guard, [&](auto as, i32 i) {
+        const auto pins = terms.template pin<k>();
+        walkGuarded<T>(count, guard, [&](auto as, i32 i) VOKM_INLINE_LAMBDA {
             using V = typename decltype(as)::type;
+            if constexpr (isPack<V> && sizeof(T) == 8 && folds<order, k> && Terms::folds) {
+                return storeLanes(dst.base + i, finish(pins.template folded<order, k>(i)));
+            }
             V p[k];
-            terms.fixedTerms(p, held, i);
+            pins.fixedTerms(p, held, i);
             V s;
             if constexpr (k == row.blockLength) {
                 s = i < block ? sum<row.blockOrder>(p) : sum<order>(p);
@@ -142,7 +174,7 @@ inline vokStatus reduce(const Terms& terms, const Packed<T>& dst, i32 n, i32 cou
         });
         return vokStatusOk;
     };
-    const auto general = [&]() -> vokStatus {
+    const auto general = [&]() VOKM_INLINE_LAMBDA -> vokStatus {
         for (i32 i = 0; i < count; ++i) dst.base[i] = finishOther(other(terms, i, n));
         return vokStatusOk;
     };
