@@ -25,10 +25,8 @@ template <Variant variant, class M, class A, class D> VOKM_INLINE vokStatus tran
     const Held<T, 4, 4, M> a(src1, count >= packLanes<T>);
     vokStatus status = vokStatusOk;
     // Returns whether every w was large enough; if not, nothing is stored.
-    const auto regular = [&](auto as, i32 i) VOKM_INLINE_LAMBDA {
-        using V = typename decltype(as)::type;
-        V p[1][3], d[1][3];
-        load(p, src2, i);
+    const auto regular = [&]<class V>(const V(&p)[1][3], i32 i) VOKM_INLINE_LAMBDA {
+        V d[1][3];
         const V w = coordinate<variant>(a, 3, p);
         if (!all(magnitude(w) > splat<V>(FLT_MIN))) return false;
         const V inv = splat<V>(1.0f) / w;
@@ -36,23 +34,34 @@ template <Variant variant, class M, class A, class D> VOKM_INLINE vokStatus tran
         store(d, dst, i);
         return true;
     };
-    const auto one = [&](i32 i) VOKM_INLINE_LAMBDA {
-        if (regular(As<T>{}, i)) return;
+    const auto one = [&](const T(&p)[1][3], i32 i) VOKM_INLINE_LAMBDA {
+        if (regular(p, i)) return;
         const T largest[1][3] = {{FLT_MAX, FLT_MAX, FLT_MAX}};
         store(largest, dst, i);
         status = vokStatusDivideByZero;
     };
     const auto guard = lazyGuard<T>(
         count, [&]() VOKM_INLINE_LAMBDA { return packGuard(count, Shaped<D>{dst, {1, 3}}, Shaped<A>{src2, {1, 3}}); });
-    walkGuarded<T>(count, guard, [&](auto as, i32 i) VOKM_INLINE_LAMBDA {
-        using V = typename decltype(as)::type;
-        if constexpr (isPack<V>) {
-            if (regular(as, i)) return;
-            for (int k = 0; k < packLanes<T>; ++k) one(i + k);
-        } else {
-            one(i);
+    i32 i = 0;
+    for (; guard(i) && i + packLanes<T> <= count; i += packLanes<T>) {
+        Pack<T> p[1][3];
+        load(p, src2, i);
+        if (regular(p, i)) continue;
+        for (int k = 0; k < packLanes<T>; ++k) {
+            const T single[1][3] = {{p[0][0][k], p[0][1][k], p[0][2][k]}};
+            one(single, i + k);
         }
-    });
+    }
+    // One by one. The contiguous kernel reads the next point before it writes the current one, which a caller sees whose
+    // results lie on the points that follow.
+    T p[1][3], next[1][3];
+    if (i < count) load(next, src2, i);
+    for (; i < count; ++i) {
+        for (int j = 0; j < 3; ++j) p[0][j] = next[0][j];
+        if (variant == Variant::plain && i + 1 < count) load(next, src2, i + 1);
+        one(p, i);
+        if (variant != Variant::plain && i + 1 < count) load(next, src2, i + 1);
+    }
     return status;
 }
 

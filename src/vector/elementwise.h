@@ -157,7 +157,11 @@ VOKM_INLINE vokStatus elementwise(Op op, A a, B b, D dst, Shape shape, i32 count
             const auto y = b.object(i, shape);
             const auto d = dst.object(i, shape);
             for (i32 r = 0; r < shape.rows; ++r) {
-                for (i32 c = 0; c < shape.cols; ++c) d(r, c) = op(T(x(r, c)), T(y(r, c)));
+                for (i32 c = 0; c < shape.cols; ++c) {
+                    d(r, c) = op(T(x(r, c)), T(y(r, c)));
+                    // Overlap by any number of bytes is read and written one element at a time.
+                    if constexpr (!isList<D>) asm volatile("" ::: "memory");
+                }
             }
         }
         return vokStatusOk;
