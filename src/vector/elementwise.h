@@ -88,6 +88,19 @@ template <class V, class View> VOKM_INLINE V fromRun(const View& view, i64 j)
     }
 }
 
+/// As separate() of overlap.h, for a destination that is one run of `bytes`; a source that is an array is a run as well.
+template <class D, class S> VOKM_INLINE bool runApart(const D& dst, const S& src, i64 bytes, i32 count, Shape shape)
+{
+    if constexpr (S::code == Code::c) {
+        return true;
+    } else if constexpr (S::array && requires { dst.base == src.base; }) {
+        const auto distance = static_cast<i64>(reinterpret_cast<Address>(dst.base) - reinterpret_cast<Address>(src.base));
+        return distance == 0 || distance >= bytes || distance <= -bytes;
+    } else {
+        return separate(count, Shaped<D>{dst, shape}, Shaped<S>{src, shape});
+    }
+}
+
 /// Arrays (and constants) that are one run each: one long vector.
 template <class T, class Op, class A, class B, class D>
 inline void longRun(Op op, A a, B b, D dst, i64 elements)
@@ -172,7 +185,8 @@ VOKM_INLINE vokStatus elementwise(Op op, A a, B b, D dst, Shape shape, i32 count
         if constexpr (D::array && D::dense) {
             const bool runs = (isSingleOperand<A> || oneRun(a, shape)) && (isSingleOperand<B> || oneRun(b, shape)) &&
                               oneRun(dst, shape) && count > 1;
-            if (runs && apart()) {
+            const i64 bytes = i64(count) * (R * C) * i64(sizeof(T));
+            if (runs && runApart(dst, a, bytes, count, shape) && runApart(dst, b, bytes, count, shape)) {
                 if constexpr (requires { dst.base; } && A::code != Code::ca && B::code != Code::ca &&
                               !(isTransposed(A::code) && A::array) && !(isTransposed(B::code) && B::array)) {
                     if constexpr (isSingleOperand<A> || isSingleOperand<B>) {
