@@ -8,10 +8,10 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <cstdint>
 #include <cstring>
+#include <ctime>
 #include <functional>
 #include <map>
 #include <numeric>
@@ -50,8 +50,12 @@ void clearUpperHalves() {
                            "xmm11", "xmm12", "xmm13", "xmm14", "xmm15");
 }
 
-double now() {
-    return std::chrono::duration<double, std::nano>(std::chrono::steady_clock::now().time_since_epoch()).count();
+// Short bursts read the wall clock, which costs nothing, and the median drops those that the scheduler interrupts. Long ones
+// are always interrupted on a busy machine, so they read the thread's own time.
+double now(Where where) {
+    timespec t;
+    clock_gettime(where == cache ? CLOCK_MONOTONIC : CLOCK_THREAD_CPUTIME_ID, &t);
+    return t.tv_sec * 1e9 + t.tv_nsec;
 }
 
 // One arena for all rows, emptied between them: a row's operands lie side by side, and the pages are touched once.
@@ -352,10 +356,10 @@ private:
             if (first) {
                 const auto maker = std::find_if(peers.begin(), peers.end(), [&](const Peer& p) {
                     return p.group == peer.group && !std::strcmp(p.text.row, first->name) && p.text.type == type && p.text.n == f.n &&
-                           !std::strcmp(p.text.how, f.how);
+                           p.text.columns == f.columns;
                 });
                 if (maker == peers.end()) {
-                    fault += peer.group + " has no preparation \"" + f.how + "\"; ";
+                    fault += peer.group + " has no preparation; ";
                     continue;
                 }
                 made = results(*first);
@@ -410,10 +414,10 @@ template <class T> void measure(benchmark::State& state, const Row& row, int n, 
     Job<T> job(row, n, where);
     if (!job.fault.empty()) return state.SkipWithError(job.fault.c_str());
     if (job.contenders.empty()) return state.SkipWithError("no contender");
-    const auto timed = [](auto& contender) {
-        const double start = now();
+    const auto timed = [where](auto& contender) {
+        const double start = now(where);
         contender.run(contender.repeats);
-        const double time = now() - start;
+        const double time = now(where) - start;
         clearUpperHalves();
         return time;
     };
@@ -459,7 +463,7 @@ void registerRows() {
                     const std::string name = std::string(row.name) + (*type == 'f' ? "/32f/" : "/64f/") + std::to_string(n) + "/" + place;
                     benchmark::RegisterBenchmark(name.c_str(), [&row, n, where, f = *type == 'f' ? measure<float> : measure<double>](
                                                                    benchmark::State& state) { f(state, row, n, where); })
-                        ->Iterations(where == cache ? rounds : std::max(5, rounds / 4))
+                        ->Iterations(where == cache ? rounds : std::max(7, rounds / 3))
                         ->UseManualTime();
                 }
 }
@@ -480,6 +484,9 @@ int main(int argc, char** argv) {
     bench::gather("loop", benchPlain);
 #ifdef BENCH_LAPACK
     bench::gather("lapack", benchLapack);
+#endif
+#ifdef BENCH_XSMM
+    bench::gather("xsmm", benchXsmm);
 #endif
     bench::registerRows();
     benchmark::Initialize(&argc, argv);

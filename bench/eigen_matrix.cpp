@@ -28,7 +28,7 @@ template <class T, int n, int order, Copies copies> void products(Add add) {
 #define V(base, i) object<copies == every>(get<T, n>(base, i))
 #define TO_M(i, ...) assign<copies == every>(put<T, n, n, order>(o.out[0], i), __VA_ARGS__)
 #define TO_V(i, ...) assign<copies == every>(put<T, n>(o.out[0], i), __VA_ARGS__)
-    row("Mul_mama", [](const Operands& o) { EACH(o, i) {
+    if constexpr (copies != every) row("Mul_mama", [](const Operands& o) { EACH(o, i) {
         const auto a = A(o.in[0], i);
         const auto b = M(o.in[1], i);
         TO_M(i, a * b);
@@ -38,51 +38,55 @@ template <class T, int n, int order, Copies copies> void products(Add add) {
         const auto b = M(o.in[1], i);
         TO_M(i, a * b.transpose());
     }});
-    row("Mul_mam", [](const Operands& o) {
-        const Eigen::Matrix<T, n, n, order> b = M(o.in[1], 0);
-        EACH(o, i) {
+    if constexpr (copies == none) {
+        row("Mul_mam", [](const Operands& o) {
+            const Eigen::Matrix<T, n, n, order> b = M(o.in[1], 0);
+            EACH(o, i) {
+                const auto a = A(o.in[0], i);
+                TO_M(i, a * b);
+            }
+        });
+        row("Mul_mma", [](const Operands& o) {
+            const Eigen::Matrix<T, n, n, order> a = M(o.in[0], 0);
+            EACH(o, i) {
+                const auto b = M(o.in[1], i);
+                TO_M(i, a * b);
+            }
+        });
+    }
+    if constexpr (copies != first) {
+        row("Mul_mava", [](const Operands& o) { EACH(o, i) {
             const auto a = A(o.in[0], i);
-            TO_M(i, a * b);
-        }
-    });
-    row("Mul_mma", [](const Operands& o) {
-        const Eigen::Matrix<T, n, n, order> a = M(o.in[0], 0);
-        EACH(o, i) {
-            const auto b = M(o.in[1], i);
-            TO_M(i, a * b);
-        }
-    });
-    row("Mul_mava", [](const Operands& o) { EACH(o, i) {
-        const auto a = A(o.in[0], i);
-        const auto x = V(o.in[1], i);
-        TO_V(i, a * x);
-    }});
-    row("Mul_mav", [](const Operands& o) {
-        const Eigen::Matrix<T, n, 1> x = V(o.in[1], 0);
-        EACH(o, i) {
-            const auto a = A(o.in[0], i);
-            TO_V(i, a * x);
-        }
-    });
-    row("Mul_mva", [](const Operands& o) {
-        const Eigen::Matrix<T, n, n, order> a = M(o.in[0], 0);
-        EACH(o, i) {
             const auto x = V(o.in[1], i);
             TO_V(i, a * x);
-        }
-    });
-    row("Gaxpy_mva", [](const Operands& o) {
-        const Eigen::Matrix<T, n, n, order> a = M(o.in[0], 0);
-        EACH(o, i) {
-            const auto x = V(o.in[1], i);
-            const auto y = V(o.in[2], i);
-            TO_V(i, a * x + y);
-        }
-    });
-    row("Transpose_ma", [](const Operands& o) { EACH(o, i) {
-        const auto a = A(o.in[0], i);
-        TO_M(i, a.transpose());
-    }});
+        }});
+        row("Mul_mav", [](const Operands& o) {
+            const Eigen::Matrix<T, n, 1> x = V(o.in[1], 0);
+            EACH(o, i) {
+                const auto a = A(o.in[0], i);
+                TO_V(i, a * x);
+            }
+        });
+        row("Mul_mva", [](const Operands& o) {
+            const Eigen::Matrix<T, n, n, order> a = M(o.in[0], 0);
+            EACH(o, i) {
+                const auto x = V(o.in[1], i);
+                TO_V(i, a * x);
+            }
+        });
+        row("Gaxpy_mva", [](const Operands& o) {
+            const Eigen::Matrix<T, n, n, order> a = M(o.in[0], 0);
+            EACH(o, i) {
+                const auto x = V(o.in[1], i);
+                const auto y = V(o.in[2], i);
+                TO_V(i, a * x + y);
+            }
+        });
+        row("Transpose_ma", [](const Operands& o) { EACH(o, i) {
+            const auto a = A(o.in[0], i);
+            TO_M(i, a.transpose());
+        }});
+    }
     if constexpr (copies == none)
         row("Trace_ma", [](const Operands& o) {
             T* dst = static_cast<T*>(o.out[0]);

@@ -34,4 +34,5 @@ void benchEigenSse3(bench::Add);
 void benchEigenNative(bench::Add);
 void benchPlain(bench::Add);
 void benchLapack(bench::Add);
+void benchXsmm(bench::Add);
 }
