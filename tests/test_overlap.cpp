@@ -118,7 +118,7 @@ TEST_P(OverlappingVectors, HalfElementsApart) { ascend(1, 2); }
 INSTANTIATE_TEST_SUITE_P(Form, OverlappingVectors,
     testing::Values(
         "vokmAdd_vv", "vokmSub_vv", "vokmAdd_vc", "vokmSub_vc", "vokmSub_cv", "vokmMul_vc", "vokmSaxpy_vv", "vokmLComb_vv"),
-    [](const testing::TestParamInfo<const char*>& info) { return std::string(info.param); });
+    [](const testing::TestParamInfo<const char*>& form) { return std::string(form.param); });
 
 // A vector that starts between two elements' addresses is summed one by one.
 TEST(UnalignedVectors, AreSummedAscending)

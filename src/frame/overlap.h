@@ -91,6 +91,26 @@ template <class D> [[gnu::noinline]] bool resultsApart(Shaped<D> dst)
     return same == position && positionsApart(dst, dst, (N - 1) * step + E);
 }
 
+/// Whether the planes of `count` elements that begin at each position of the result follow one another without overlap, by rows
+/// or by columns: each element is written once, and no order of the planes can be seen.
+template <class D> [[gnu::noinline]] bool planesApart(Shaped<D> dst, i32 count)
+{
+    const auto object = dst.view.object(0, dst.shape);
+    const auto ascending = [&](i32 outer, i32 inner, auto at) {
+        Address end = 0;
+        for (i32 o = 0; o < outer; ++o) {
+            for (i32 i = 0; i < inner; ++i) {
+                const auto place = reinterpret_cast<Address>(at(o, i));
+                if (place < end) return false;
+                end = place + Address(count) * sizeof(typename D::element);
+            }
+        }
+        return true;
+    };
+    return ascending(dst.shape.rows, dst.shape.cols, [&](i32 r, i32 c) { return &object(r, c); }) ||
+           ascending(dst.shape.cols, dst.shape.rows, [&](i32 c, i32 r) { return &object(r, c); });
+}
+
 template <class D> VOKM_INLINE bool resultsApartIfArray(const Shaped<D>& dst)
 {
     if constexpr (fixedStep<D>) {

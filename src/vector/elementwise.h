@@ -1,7 +1,8 @@
 // Element-wise operations, for vectors and matrices alike: dst(r, c) = op(a(r, c), b(r, c)), one rounding or two per element,
 // so that no path of a form differs in a bit. What can be seen of the paths is when memory is read: at the sizes with a path
 // an object is read whole before it is written and a single operand is held over the walk (or read anew, where the row says
-// so); elsewhere element follows element, and everything is read anew.
+// so); elsewhere element follows element, and everything is read anew. A transposed operand is never read ahead of the rows
+// that are written: where it shares memory with the result, element follows element too.
 #pragma once
 
 #include <numeric>
@@ -47,13 +48,14 @@ template <class T> struct Combine {
     template <class V> VOKM_INLINE V operator()(V a, V b) const { return a * val1.template as<V>() + b * val2.template as<V>(); }
 };
 
-/// The sizes with a path, by kernel; of these, `anew` those that read a single operand for each object again.
+/// The sizes with a path, by kernel; of these, `anew` those that read a single operand for each object again, and `ahead` those
+/// that load the next object before they store the current one.
 struct Paths {
     struct Kernel {
-        SizeSet sizes, anew = generalOnly;
+        SizeSet sizes, anew = generalOnly, ahead = generalOnly;
     };
     Kernel plain, S2, P, L, LS2;
-    constexpr const Kernel& of(Variant variant) const
+    template <class T> constexpr const Kernel& of(Variant variant) const
     {
         switch (variant) {
         case Variant::plain: return plain;
@@ -151,81 +153,165 @@ inline void patternRun(Op op, A a, B b, D dst, i32 count)
     for (int k = 0; j + k < elements; ++k) dst.base[j + k] = op(ofA.template at<T>(a, j, k), ofB.template at<T>(b, j, k));
 }
 
-template <const Paths& paths, Variant variant, class T, class Op, class A, class B, class D>
+/// The same element of all objects, where neighbouring objects are neighbours in memory; of a single operand, its one element.
+template <class T, class View> struct Plane {
+    const T* at;
+    T value{};
+    Plane(const View& view, Shape shape, i32 r, i32 c) : at(nullptr)
+    {
+        if constexpr (!View::array) {
+            value = view.object(0, shape)(r, c);
+        } else if constexpr (View::code == Code::ca) {
+            at = view.base;
+        } else {
+            at = &view.object(0, shape)(r, c);
+        }
+    }
+    template <class V> VOKM_INLINE V from(i32 i) const
+    {
+        if constexpr (View::array) return loadLanes<V>(at + i);
+        return splat<V>(value);
+    }
+};
+
+/// One plane per element, each a long vector over the objects.
+template <class T, class Op, class A, class B, class D>
+inline void planeByPlane(Op op, A a, B b, D dst, Shape shape, i32 count)
+{
+    for (i32 r = 0; r < shape.rows; ++r) {
+        for (i32 c = 0; c < shape.cols; ++c) {
+            const Plane<T, A> x(a, shape, r, c);
+            const Plane<T, B> y(b, shape, r, c);
+            T* const d = &dst.object(0, shape)(r, c);
+            i32 i = 0;
+            for (; i <= count - packLanes<T>; i += packLanes<T>) {
+                storeLanes(d + i, op(x.template from<Pack<T>>(i), y.template from<Pack<T>>(i)));
+            }
+            for (; i < count; ++i) d[i] = op(x.template from<T>(i), y.template from<T>(i));
+        }
+    }
+}
+
+/// One object, element after element: each is read just before its result is written.
+template <class T, class Op, class X, class Y, class D>
+VOKM_INLINE void eachElement(Op op, const X& x, const Y& y, const D& d, Shape shape)
+{
+    for (i32 r = 0; r < shape.rows; ++r) {
+        for (i32 c = 0; c < shape.cols; ++c) {
+            d(r, c) = op(T(x(r, c)), T(y(r, c)));
+            asm volatile("" ::: "memory");  // overlap by any number of bytes: no vectorised loop behind our back
+        }
+    }
+}
+
+/// A single operand over the walk as an object of its own: the held values, or the operand itself if it is read anew.
+template <bool anew, class View, class H> VOKM_INLINE auto objectOrHeld(const View& view, const H& held, i32 i, Shape shape)
+{
+    if constexpr (isSingleOperand<View> && !anew) {
+        return [&held](i32 r, i32 c) { return held.one[r][c]; };
+    } else {
+        return view.object(i, shape);
+    }
+}
+
+/// Whether object i of a transposed operand shares no byte with object i of the result, so that reading it whole cannot be seen.
+template <bool anew, class D, class S> VOKM_INLINE bool wholeReadable(i32 i, const Shaped<D>& dst, const Shaped<S>& src)
+{
+    if constexpr (!isTransposed(S::code) || (isSingleOperand<S> && !anew)) {
+        return true;
+    } else if constexpr (requires { src.view.table; }) {
+        return false;
+    } else {
+        return dst.extent(i).disjoint(src.extent(i));
+    }
+}
+
+template <const auto& paths, Variant variant, class T, class Op, class A, class B, class D>
 VOKM_INLINE vokStatus elementwise(Op op, A a, B b, D dst, Shape shape, i32 count)
 {
     const auto apart = [&]() VOKM_INLINE_LAMBDA {
         return separate(count, Shaped<D>{dst, shape}, Shaped<A>{a, shape}) &&
                separate(count, Shaped<D>{dst, shape}, Shaped<B>{b, shape});
     };
+    constexpr bool turnedArray = (isTransposed(A::code) && A::array) || (isTransposed(B::code) && B::array);
+    if constexpr (requires { dst.stride0; } && D::array) {
+        if (planar(dst) && (!A::array || planar(a)) && (!B::array || planar(b)) && count >= packLanes<T> &&
+            planesApart(Shaped<D>{dst, shape}, count) && apart()) {
+            planeByPlane<T>(op, a, b, dst, shape, count);
+            return vokStatusOk;
+        }
+    }
     const auto general = [&]() VOKM_INLINE_LAMBDA -> vokStatus {
-        if constexpr (!isSingleOperand<A> && !isSingleOperand<B>) {
+        if constexpr (D::dense && !isSingleOperand<A> && !isSingleOperand<B> && requires { dst.base; }) {
             if (oneRun(a, shape) && oneRun(b, shape) && oneRun(dst, shape) && apart()) {
-                if constexpr (requires { dst.base; }) longRun<T>(op, a, b, dst, i64(count) * shape.elements());
+                longRun<T>(op, a, b, dst, i64(count) * shape.elements());
                 return vokStatusOk;
             }
         }
         for (i32 i = 0; i < count; ++i) {
-            const auto x = a.object(i, shape);
-            const auto y = b.object(i, shape);
-            const auto d = dst.object(i, shape);
-            for (i32 r = 0; r < shape.rows; ++r) {
-                for (i32 c = 0; c < shape.cols; ++c) {
-                    d(r, c) = op(T(x(r, c)), T(y(r, c)));
-                    // Overlap by any number of bytes is read and written one element at a time.
-                    if constexpr (!isList<D>) asm volatile("" ::: "memory");
-                }
-            }
+            eachElement<T>(op, a.object(i, shape), b.object(i, shape), dst.object(i, shape), shape);
         }
         return vokStatusOk;
     };
     const auto fixed = [&](auto size) VOKM_INLINE_LAMBDA -> vokStatus {
         constexpr int C = decltype(size)::value, R = isMatrix(D::code) ? C : 1;
-        constexpr bool hasPath = paths.of(variant).sizes.has(C), anew = paths.of(variant).anew.has(C);
-        if constexpr (D::array && D::dense) {
+        constexpr Paths::Kernel kernel = paths.template of<T>(variant);
+        constexpr bool hasPath = kernel.sizes.has(C), anew = !D::array || kernel.anew.has(C), ahead = kernel.ahead.has(C);
+        if constexpr (D::array && D::dense && requires { dst.base; } && A::code != Code::ca && B::code != Code::ca && !turnedArray) {
             const bool runs = (isSingleOperand<A> || oneRun(a, shape)) && (isSingleOperand<B> || oneRun(b, shape)) &&
                               oneRun(dst, shape) && count > 1;
             const i64 bytes = i64(count) * (R * C) * i64(sizeof(T));
             if (runs && runApart(dst, a, bytes, count, shape) && runApart(dst, b, bytes, count, shape)) {
-                if constexpr (requires { dst.base; } && A::code != Code::ca && B::code != Code::ca &&
-                              !(isTransposed(A::code) && A::array) && !(isTransposed(B::code) && B::array)) {
-                    if constexpr (isSingleOperand<A> || isSingleOperand<B>) {
-                        patternRun<T, R, C>(op, a, b, dst, count);
-                    } else {
-                        longRun<T>(op, a, b, dst, i64(count) * (R * C));
-                    }
-                    return vokStatusOk;
+                if constexpr (isSingleOperand<A> || isSingleOperand<B>) {
+                    patternRun<T, R, C>(op, a, b, dst, count);
+                } else {
+                    longRun<T>(op, a, b, dst, i64(count) * (R * C));
                 }
+                return vokStatusOk;
             }
         }
-        const auto pinA = pinned<R, C>(a);
-        const auto pinB = pinned<R, C>(b);
-        const auto pinD = pinned<R, C>(dst);
-        const auto work = [&](auto as, const auto& heldA, const auto& heldB, i32 i) VOKM_INLINE_LAMBDA {
-            using V = typename decltype(as)::type;
-            V x[R][C], y[R][C], z[R][C];
-            loadOrHeld(x, pinA, heldA, i);
-            loadOrHeld(y, pinB, heldB, i);
-            for (int r = 0; r < R; ++r) {
-                for (int c = 0; c < C; ++c) z[r][c] = op(x[r][c], y[r][c]);
-            }
-            store(z, pinD, i);
+        using HeldA = HeldIfSingle<T, R, C, A>;
+        using HeldB = HeldIfSingle<T, R, C, B>;
+        struct Tile {
+            T at[R][C];
         };
-        if (planar(dst) && (!A::array || planar(a)) && (!B::array || planar(b)) && count >= packLanes<T> &&
-            apart() && resultsApartIfArray(Shaped<D>{dst, shape})) {
-            const HeldIfSingle<T, R, C, A> heldA(a, true);
-            const HeldIfSingle<T, R, C, B> heldB(b, true);
-            walk<T>(count, true, [&](auto as, i32 i) VOKM_INLINE_LAMBDA { work(as, heldA, heldB, i); });
-        } else if constexpr (!hasPath) {
+        const auto work = [&](const HeldA& heldA, const HeldB& heldB, i32 i) VOKM_INLINE_LAMBDA {
+            Tile x, y, z;
+            loadOrHeld(x.at, a, heldA, i);
+            loadOrHeld(y.at, b, heldB, i);
+            for (int r = 0; r < R; ++r) {
+                for (int c = 0; c < C; ++c) z.at[r][c] = op(x.at[r][c], y.at[r][c]);
+            }
+            return z;
+        };
+        const auto finish = [&](const HeldA& heldA, const HeldB& heldB, i32 i) VOKM_INLINE_LAMBDA {
+            if (wholeReadable<anew>(i, Shaped<D>{dst, shape}, Shaped<A>{a, shape}) &&
+                wholeReadable<anew>(i, Shaped<D>{dst, shape}, Shaped<B>{b, shape})) {
+                store(work(heldA, heldB, i).at, dst, i);
+            } else {
+                eachElement<T>(op, objectOrHeld<anew>(a, heldA, i, shape), objectOrHeld<anew>(b, heldB, i, shape),
+                               dst.object(i, shape), shape);
+            }
+        };
+        if constexpr (!hasPath) {
             return general();
         } else if constexpr (anew) {
-            for (i32 i = 0; i < count; ++i) {
-                work(As<T>{}, HeldIfSingle<T, R, C, A>(a, false), HeldIfSingle<T, R, C, B>(b, false), i);
-            }
+            for (i32 i = 0; i < count; ++i) finish(HeldA(a, false), HeldB(b, false), i);
         } else {
-            const HeldIfSingle<T, R, C, A> heldA(a, false);
-            const HeldIfSingle<T, R, C, B> heldB(b, false);
-            for (i32 i = 0; i < count; ++i) work(As<T>{}, heldA, heldB, i);
+            const HeldA heldA(a, false);
+            const HeldB heldB(b, false);
+            if constexpr (ahead && !turnedArray) {
+                if (count < 1) return vokStatusOk;
+                Tile done = work(heldA, heldB, 0);
+                for (i32 i = 1; i < count; ++i) {
+                    const Tile next = work(heldA, heldB, i);
+                    store(done.at, dst, i - 1);
+                    done = next;
+                }
+                store(done.at, dst, count - 1);
+            } else {
+                for (i32 i = 0; i < count; ++i) finish(heldA, heldB, i);
+            }
         }
         return vokStatusOk;
     };
