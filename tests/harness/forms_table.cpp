@@ -123,7 +123,7 @@ vokmLUBackSubst | mava | @sq pivot:i[widthHeight] src2=2[1,widthHeight] dst:v[1,
 vokmDet    | m  | @sq widthHeight buffer:b[n*n+n] dst:s       | S:NZS P:NZO
 vokmDet    | ma | @sq widthHeight buffer:b[n*n+n] dst:s count | S:NCZS P:NCZSO L:NCZSO | n*count | 20000 20000 40000/20000;20000
 vokmInvert | m  | @sq buffer:b[n*n+n] @sqd widthHeight       | S:NZS P:NZO
-vokmInvert | ma | @sq buffer:b[n*n+n] @sqd widthHeight count | S:NCZS P:NCZSO L:NCZSO | 2*n*count | 20000 20000 40000/20000;20000 | merge
+vokmInvert | ma | @sq buffer:b[n*n+n] @sqd widthHeight count | S:NCZS P:NCZSO L:NCZSO | 2*n*count*(2<=n) | 20000 20000 40000/20000;20000 | merge
 vokmCholeskyDecomp | m  | @sq @sqd widthHeight       | S:NZS P:NZO
 vokmCholeskyDecomp | ma | @sq @sqd widthHeight count | S:NCZS P:NCZSO L:NCZSO | n*n*count | 7500;2000 2000 2000;720/2000 | merge
 vokmCholeskyBackSubst | mv   | @sq src2=2[1,widthHeight] dst:v[1,widthHeight] widthHeight       | S:NZS P:NZO
