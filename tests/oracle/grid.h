@@ -65,7 +65,8 @@ public:
         }
     }
     // How an object becomes awkward: i small integers, e two equal rows, z a column of zeros, d a diagonal of 1 with an entry
-    // at the edge of what counts as zero, s far from 1, n one entry that is not finite.
+    // at the edge of what counts as zero, s far from 1, n one entry that is not finite. For eigenproblems: u a multiple of the
+    // identity, t three diagonals of small integers, c a companion matrix, r rotations along the diagonal, j a Jordan block.
     void spoil(int i, char how, Random& random);
 
     Job& job;
@@ -96,6 +97,11 @@ template <class T> void Source<T>::spoil(int i, char how, Random& random)
     case 'd': fill(i, [&](int r, int c) { return r != c ? T(0) : c == col ? edge : T(1); }); break;
     case 's': fill(i, [&](int r, int c) { return get(i, r, c) * power; }); break;
     case 'n': put(i, row, col, odd); break;
+    case 'u': fill(i, [&](int r, int c) { return r != c ? T(0) : col ? T(col) : T(0.001); }); break;
+    case 't': fill(i, [&](int r, int c) { return std::abs(r - c) > 1 ? T(0) : T(int(random() % 7) - 3); }); break;
+    case 'c': fill(i, [&](int r, int c) { return r == c + 1 ? T(1) : c < cols - 1 ? T(0) : T(int(random() % 9) - 4); }); break;
+    case 'r': fill(i, [&](int r, int c) { return r / 2 != c / 2 ? T(0) : r == c ? T(0) : T(r < c ? -col - 1 : col + 1); }); break;
+    case 'j': fill(i, [&](int r, int c) { return r == c ? T(col) : r + 1 == c ? T(1) : T(0); }); break;
     }
 }
 
