@@ -91,6 +91,23 @@ template <class D> [[gnu::noinline]] bool resultsApart(Shaped<D> dst)
     return same == position && positionsApart(dst, dst, (N - 1) * step + E);
 }
 
+/// Whether no two elements of an object share memory: then its rows can be written in any order.
+template <class D> [[gnu::noinline]] bool elementsApart(Shaped<D> dst)
+{
+    constexpr Address E = sizeof(typename D::element);
+    if constexpr (requires { dst.view.table; }) {
+        i32 apart = 0, elements = 0;
+        dst.eachElement(0, [&](Address x) {
+            ++elements;
+            dst.eachElement(0, [&](Address y) { apart += y - x + E - 1 >= 2 * E - 1; });
+        });
+        return apart == elements * (elements - 1);
+    } else {
+        const i64 rowStep = dst.view.stride1, colStep = dst.view.stride2;
+        return rowStep >= dst.shape.cols * colStep || colStep >= dst.shape.rows * rowStep;
+    }
+}
+
 /// Whether the planes of `count` elements that begin at each position of the result follow one another without overlap, by rows
 /// or by columns: each element is written once, and no order of the planes can be seen.
 template <class D> [[gnu::noinline]] bool planesApart(Shaped<D> dst, i32 count)

@@ -67,6 +67,12 @@ inline double magnitude(double x) { return std::fabs(x); }
 inline Pack<float> magnitude(Pack<float> x) { return Pack<float>(_mm_andnot_ps(_mm_set1_ps(-0.0f), __m128(x))); }
 inline Pack<double> magnitude(Pack<double> x) { return Pack<double>(_mm_andnot_pd(_mm_set1_pd(-0.0), __m128d(x))); }
 
+/// The greater of two: x > y ? x : y, so y if either is NaN.
+inline float larger(float x, float y) { return x > y ? x : y; }
+inline double larger(double x, double y) { return x > y ? x : y; }
+inline Pack<float> larger(Pack<float> x, Pack<float> y) { return Pack<float>(_mm_max_ps(__m128(x), __m128(y))); }
+inline Pack<double> larger(Pack<double> x, Pack<double> y) { return Pack<double>(_mm_max_pd(__m128d(x), __m128d(y))); }
+
 /// The root of a 32-bit sum taken in 64 bits and rounded back.
 inline float rootInDouble(float x) { return static_cast<float>(std::sqrt(static_cast<double>(x))); }
 inline double rootInDouble(double x) { return std::sqrt(x); }
