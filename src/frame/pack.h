@@ -85,6 +85,17 @@ inline Pack<float> rootInDouble(Pack<float> x)
     return Pack<float>(_mm_movelh_ps(low, high));
 }
 
+/// 1 / sqrt(x), both taken in 64 bits and rounded once.
+inline float inverseRootInDouble(float x) { return static_cast<float>(1 / std::sqrt(static_cast<double>(x))); }
+inline double inverseRootInDouble(double x) { return 1 / std::sqrt(x); }
+inline Pack<double> inverseRootInDouble(Pack<double> x) { return 1.0 / root(x); }
+inline Pack<float> inverseRootInDouble(Pack<float> x)
+{
+    const __m128 v = __m128(x);
+    const Pack<double> low(_mm_cvtps_pd(v)), high(_mm_cvtps_pd(_mm_movehl_ps(v, v)));
+    return Pack<float>(_mm_movelh_ps(_mm_cvtpd_ps(__m128d(1.0 / root(low))), _mm_cvtpd_ps(__m128d(1.0 / root(high)))));
+}
+
 /// Whether a lane-wise condition holds in every lane, or in any.
 inline bool all(bool condition) { return condition; }
 inline bool any(bool condition) { return condition; }
