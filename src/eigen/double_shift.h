@@ -12,11 +12,11 @@ namespace vokm {
 template <class T, class N, bool vectors> class DoubleShift {
     using K = GeneralConstants<T>;
     Square<T, N> h, z;
-    T smallest;      // with vectors: up to here a subdiagonal element is zero at once
-    i32 lo = 0, hi;  // the active block, the last index included
+    T smallest;        // with vectors: up to here a subdiagonal element is zero at once
+    i32 lo = 0, hi;    // the active block, the last index included
     T cs = 1, sn = 0;  // the rotation of the last 2x2 block
 
- public:
+public:
     VOKM_INLINE DoubleShift(Square<T, N> hessenberg, Square<T, N> orthogonal, T limit)
         : h(hessenberg), z(orthogonal), smallest(limit), hi(hessenberg.n() - 1)
     {
@@ -47,7 +47,7 @@ template <class T, class N, bool vectors> class DoubleShift {
         return vokStatusOk;
     }
 
- private:
+private:
     struct Shifts {
         T h33, h44, h43h34;
     };

@@ -58,10 +58,10 @@ VALUES_FORMS_MA(GENERAL_KERNELS_MA)
 VALUES_FORMS_M(GENERAL_EXPORTS_M)
 VALUES_FORMS_MA(GENERAL_EXPORTS_MA)
 
-#define GENERAL_QUERY(family, elements, ty, T)                                                \
-    vokStatus vokm##family##GetBufSize_##ty(int32_t widthHeight, int32_t* bufSize)            \
-    {                                                                                         \
-        return vokm::storeBytes(vokm::elements<vokm::i64>, widthHeight, sizeof(T), bufSize);  \
+#define GENERAL_QUERY(family, elements, ty, T)                                                                                   \
+    vokStatus vokm##family##GetBufSize_##ty(int32_t widthHeight, int32_t* bufSize)                                               \
+    {                                                                                                                            \
+        return vokm::storeBytes(vokm::elements<vokm::i64>, widthHeight, sizeof(T), bufSize);                                     \
     }
 GENERAL_QUERY(EigenValues, valuesElements, 32f, float)
 GENERAL_QUERY(EigenValues, valuesElements, 64f, double)

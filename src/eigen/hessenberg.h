@@ -17,9 +17,9 @@ struct AnySize {
 template <class T> struct GeneralConstants {
     static constexpr T eps = std::numeric_limits<T>::epsilon();
     static constexpr T invEps = 1 / eps, oneMinusEps = 1 - eps;
-    static constexpr T realTol = 4 * eps;                         // real or complex, in a 2x2 block
+    static constexpr T realTol = 4 * eps;                           // real or complex, in a 2x2 block
     static constexpr T safmin = 2 * std::numeric_limits<T>::min();  // up to here a magnitude counts as zero
-    static constexpr T safmin2 = 2 * safmin;                      // stands in for a norm below safmin
+    static constexpr T safmin2 = 2 * safmin;                        // stands in for a norm below safmin
     static constexpr T solveBig = 1 / safmin2;
 };
 

@@ -14,7 +14,7 @@ template <class T> struct RealBlock {
     bool complex() const { return !isZero(c); }
     T imaginary() const { return productOfRoots(magnitude(b), magnitude(c)); }
 
- private:
+private:
     void separateReal(T larger, T smaller, T z);
     void equalDiagonal(T p, T temp);
     void separateAlike(T p, T temp);
