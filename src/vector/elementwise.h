@@ -7,45 +7,31 @@
 
 #include <numeric>
 
+#include "../frame/along.h"
 #include "../frame/fixed.h"
 #include "../frame/overlap.h"
 
 namespace vokm {
 
-/// A scalar for every lane, spread before the loops.
-template <class T> struct Spread {
-    T one;
-    Pack<T> all;
-    VOKM_INLINE Spread(T x) : one(x), all(splat<Pack<T>>(x)) {}
-    template <class V> VOKM_INLINE V as() const
-    {
-        if constexpr (isPack<V>) {
-            return all;
-        } else {
-            return one;
-        }
-    }
-};
-
 struct Plus {
-    template <class V> VOKM_INLINE V operator()(V a, V b) const { return a + b; }
+    template <class T> VOKM_INLINE T operator()(T a, T b) const { return a + b; }
 };
 struct Minus {
-    template <class V> VOKM_INLINE V operator()(V a, V b) const { return a - b; }
+    template <class T> VOKM_INLINE T operator()(T a, T b) const { return a - b; }
 };
 struct MinusFrom {  // the operand that stands first in the argument list is subtracted from the second
-    template <class V> VOKM_INLINE V operator()(V a, V b) const { return b - a; }
+    template <class T> VOKM_INLINE T operator()(T a, T b) const { return b - a; }
 };
 struct Times {
-    template <class V> VOKM_INLINE V operator()(V a, V b) const { return a * b; }
+    template <class T> VOKM_INLINE T operator()(T a, T b) const { return a * b; }
 };
 template <class T> struct ScaleAdd {
-    Spread<T> val;
-    template <class V> VOKM_INLINE V operator()(V a, V b) const { return a * val.template as<V>() + b; }
+    T val;
+    template <class V> VOKM_INLINE V operator()(V a, V b) const { return a * val + b; }
 };
 template <class T> struct Combine {
-    Spread<T> val1, val2;
-    template <class V> VOKM_INLINE V operator()(V a, V b) const { return a * val1.template as<V>() + b * val2.template as<V>(); }
+    T val1, val2;
+    template <class V> VOKM_INLINE V operator()(V a, V b) const { return a * val1 + b * val2; }
 };
 
 /// The sizes with a path, by kernel; of these, `anew` those that read a single operand for each object again, and `ahead` those
@@ -81,98 +67,93 @@ template <class View> inline bool oneRun(const View& view, Shape shape)
     }
 }
 
-template <class V, class View> VOKM_INLINE V fromRun(const View& view, i64 j)
+/// Element j of a run, or the constant.
+template <class View> VOKM_INLINE auto ofRun(const View& view)
 {
     if constexpr (View::code == Code::c) {
-        return splat<V>(view.value);
+        return [value = view.value](i64) VOKM_INLINE_LAMBDA { return value; };
     } else {
-        return loadLanes<V>(view.base + j);
+        return [base = view.base](i64 j) VOKM_INLINE_LAMBDA { return base[j]; };
     }
 }
 
-/// As separate() of overlap.h, for a destination that is one run of `bytes`; a source that is an array is a run as well.
-template <class D, class S> VOKM_INLINE bool runApart(const D& dst, const S& src, i64 bytes, i32 count, Shape shape)
+/// As separate() of overlap.h, for a destination that is one run of `bytes`; a source that is an array is a run as well, a
+/// single one has contiguous rows.
+template <class D, class S> VOKM_INLINE bool runApart(const D& dst, const S& src, i64 bytes, Shape shape)
 {
     if constexpr (S::code == Code::c) {
         return true;
-    } else if constexpr (S::array && requires { dst.base == src.base; }) {
-        const auto distance = static_cast<i64>(reinterpret_cast<Address>(dst.base) - reinterpret_cast<Address>(src.base));
-        return distance == 0 || distance >= bytes || distance <= -bytes;
     } else {
-        return separate(count, Shaped<D>{dst, shape}, Shaped<S>{src, shape});
+        const auto distance = static_cast<i64>(reinterpret_cast<Address>(dst.base) - reinterpret_cast<Address>(src.base));
+        if constexpr (S::array) return distance == 0 || distance >= bytes || distance <= -bytes;
+        const Shape stored = isTransposed(S::code) ? Shape{shape.cols, shape.rows} : shape;
+        return distance <= -bytes || distance >= i64(stored.rows - 1) * src.stride1 + i64(stored.cols) * i64(sizeof(*src.base));
     }
 }
 
 /// Arrays (and constants) that are one run each: one long vector.
-template <class T, class Op, class A, class B, class D>
-inline void longRun(Op op, A a, B b, D dst, i64 elements)
+template <class T, class Op, class A, class B, class D> VOKM_INLINE void longRun(Op op, A a, B b, D dst, i64 elements)
 {
-    constexpr i64 N = packLanes<T>, step = 4 * N;
-    i64 j = 0;
-    for (; j + step <= elements; j += step) {
-        for (i64 k = 0; k < step; k += N) {
-            storeLanes(dst.base + j + k, op(fromRun<Pack<T>>(a, j + k), fromRun<Pack<T>>(b, j + k)));
-        }
-    }
-    for (; j < elements; ++j) dst.base[j] = op(fromRun<T>(a, j), fromRun<T>(b, j));
+    along(elements, [op, x = ofRun(a), y = ofRun(b), d = dst.base](i64 j) VOKM_INLINE_LAMBDA { d[j] = op(x(j), y(j)); });
 }
 
 /// The elements of a single operand, repeated until they fill whole registers, beside the runs of the arrays.
 template <class T, int R, int C, class View> struct Pattern {
-    static constexpr int K = R * C, length = std::lcm(K, packLanes<T>);
-    T repeated[length];
-    explicit Pattern(const View& view)
+    static constexpr int K = R * C, N = packLanes<T>, length = std::lcm(K, N);  // as long as a period
+    Pack<T> repeated[length / N];
+    T tile[R][C];
+    VOKM_INLINE explicit Pattern(const View& view)
     {
-        T tile[R][C];
         load(tile, view, 0);
-        for (int j = 0; j < length; ++j) repeated[j] = (&tile[0][0])[j % K];
+#pragma GCC unroll 128
+        for (int j = 0; j < length; ++j) repeated[j / N][j % N] = (&tile[0][0])[j % K];
     }
-    template <class V> VOKM_INLINE V at(const View&, i64, int k) const { return loadLanes<V>(repeated + k); }
+    VOKM_INLINE Pack<T> pack(const View&, i64, int k) const { return repeated[k % length / N]; }
+    VOKM_INLINE T one(const View&, i64, int k) const { return (&tile[0][0])[k % K]; }
 };
-template <class View> struct RunAlong {
-    explicit RunAlong(const View&) {}
-    template <class V> VOKM_INLINE V at(const View& view, i64 j, int k) const { return fromRun<V>(view, j + k); }
+struct RunAlong {
+    template <class View> VOKM_INLINE explicit RunAlong(const View&) {}
+    template <class View> VOKM_INLINE auto pack(const View& view, i64 j, int k) const
+    {
+        using T = std::remove_const_t<typename View::element>;
+        if constexpr (View::code == Code::c) {
+            return splat<Pack<T>>(view.value);
+        } else {
+            return loadLanes<Pack<T>>(view.base + j + k);
+        }
+    }
+    template <class View> VOKM_INLINE auto one(const View& view, i64 j, int k) const { return ofRun(view)(j + k); }
 };
 template <class View> constexpr bool isSingleOperand = !View::array && View::code != Code::c;
 
 template <class T, int R, int C, class Op, class A, class B, class D>
 inline void patternRun(Op op, A a, B b, D dst, i32 count)
 {
-    using OfA = std::conditional_t<isSingleOperand<A>, Pattern<T, R, C, A>, RunAlong<A>>;
-    using OfB = std::conditional_t<isSingleOperand<B>, Pattern<T, R, C, B>, RunAlong<B>>;
-    constexpr int N = packLanes<T>, step = std::lcm(R * C, N);
+    using OfA = std::conditional_t<isSingleOperand<A>, Pattern<T, R, C, A>, RunAlong>;
+    using OfB = std::conditional_t<isSingleOperand<B>, Pattern<T, R, C, B>, RunAlong>;
+    // At least four registers a turn, lest the loop itself takes longer than its stores.
+    constexpr int N = packLanes<T>, period = std::lcm(R * C, N), step = period >= 4 * N ? period : period * (4 * N / period);
     const OfA ofA(a);
     const OfB ofB(b);
     const i64 elements = i64(count) * (R * C);
     i64 j = 0;
     for (; j + step <= elements; j += step) {
-        for (int k = 0; k < step; k += N) {
-            storeLanes(dst.base + j + k, op(ofA.template at<Pack<T>>(a, j, k), ofB.template at<Pack<T>>(b, j, k)));
-        }
+        for (int k = 0; k < step; k += N) storeLanes(dst.base + j + k, op(ofA.pack(a, j, k), ofB.pack(b, j, k)));
     }
-    for (int k = 0; j + k < elements; ++k) dst.base[j + k] = op(ofA.template at<T>(a, j, k), ofB.template at<T>(b, j, k));
+    for (int k = 0; j + k < elements; ++k) dst.base[j + k] = op(ofA.one(a, j, k), ofB.one(b, j, k));
 }
 
 /// The same element of all objects, where neighbouring objects are neighbours in memory; of a single operand, its one element.
-template <class T, class View> struct Plane {
-    const T* at;
-    T value{};
-    Plane(const View& view, Shape shape, i32 r, i32 c) : at(nullptr)
-    {
-        if constexpr (!View::array) {
-            value = view.object(0, shape)(r, c);
-        } else if constexpr (View::code == Code::ca) {
-            at = view.base;
-        } else {
-            at = &view.object(0, shape)(r, c);
-        }
+template <class T, class View> VOKM_INLINE auto ofPlane(const View& view, Shape shape, i32 r, i32 c)
+{
+    if constexpr (!View::array) {
+        return [value = T(view.object(0, shape)(r, c))](i64) VOKM_INLINE_LAMBDA { return value; };
+    } else if constexpr (View::code == Code::ca) {
+        return [at = view.base](i64 i) VOKM_INLINE_LAMBDA { return at[i]; };
+    } else {
+        return [at = &view.object(0, shape)(r, c)](i64 i) VOKM_INLINE_LAMBDA { return at[i]; };
     }
-    template <class V> VOKM_INLINE V from(i32 i) const
-    {
-        if constexpr (View::array) return loadLanes<V>(at + i);
-        return splat<V>(value);
-    }
-};
+}
 
 /// One plane per element, each a long vector over the objects.
 template <class T, class Op, class A, class B, class D>
@@ -180,14 +161,8 @@ inline void planeByPlane(Op op, A a, B b, D dst, Shape shape, i32 count)
 {
     for (i32 r = 0; r < shape.rows; ++r) {
         for (i32 c = 0; c < shape.cols; ++c) {
-            const Plane<T, A> x(a, shape, r, c);
-            const Plane<T, B> y(b, shape, r, c);
-            T* const d = &dst.object(0, shape)(r, c);
-            i32 i = 0;
-            for (; i <= count - packLanes<T>; i += packLanes<T>) {
-                storeLanes(d + i, op(x.template from<Pack<T>>(i), y.template from<Pack<T>>(i)));
-            }
-            for (; i < count; ++i) d[i] = op(x.template from<T>(i), y.template from<T>(i));
+            along(count, [op, x = ofPlane<T>(a, shape, r, c), y = ofPlane<T>(b, shape, r, c),
+                          d = &dst.object(0, shape)(r, c)](i64 i) VOKM_INLINE_LAMBDA { d[i] = op(x(i), y(i)); });
         }
     }
 }
@@ -261,7 +236,7 @@ VOKM_INLINE vokStatus elementwise(Op op, A a, B b, D dst, Shape shape, i32 count
             const bool runs = (isSingleOperand<A> || oneRun(a, shape)) && (isSingleOperand<B> || oneRun(b, shape)) &&
                               oneRun(dst, shape) && count > 1;
             const i64 bytes = i64(count) * (R * C) * i64(sizeof(T));
-            if (runs && runApart(dst, a, bytes, count, shape) && runApart(dst, b, bytes, count, shape)) {
+            if (runs && runApart(dst, a, bytes, shape) && runApart(dst, b, bytes, shape)) {
                 if constexpr (isSingleOperand<A> || isSingleOperand<B>) {
                     patternRun<T, R, C>(op, a, b, dst, count);
                 } else {

@@ -1,0 +1,31 @@
+// Long loops over elements that lie side by side, in the widest registers that the processor has. Every element is computed
+// by itself, so the width cannot be seen in the results.
+#pragma once
+
+#include "types.h"
+
+// The caller has made sure that no element is read behind a store to it by another step of the loop.
+#ifdef __clang__
+#define VOKM_INDEPENDENT _Pragma("clang loop vectorize(assume_safety)")
+#else
+#define VOKM_INDEPENDENT _Pragma("GCC ivdep")
+#endif
+
+namespace vokm {
+
+inline const bool wideRegisters = __builtin_cpu_supports("avx2") != 0;
+
+template <class Step> [[gnu::target("avx2"), gnu::noipa]] void alongWide(i64 n, Step step)
+{
+    VOKM_INDEPENDENT for (i64 j = 0; j < n; ++j) step(j);
+}
+
+/// step(j) for j = 0 .. n-1, several at a time. `step` is always inlined, holds what it needs by value, and its steps are
+/// independent of one another.
+template <class Step> VOKM_INLINE void along(i64 n, Step step)
+{
+    if (n >= 32 && wideRegisters) return alongWide(n, step);
+    VOKM_INDEPENDENT for (i64 j = 0; j < n; ++j) step(j);
+}
+
+}  // namespace vokm
