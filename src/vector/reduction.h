@@ -6,6 +6,7 @@
 #include "../frame/fixed.h"
 #include "../frame/overlap.h"
 #include "../frame/sums.h"
+#include "wide_sums.h"
 
 namespace vokm {
 
@@ -59,6 +60,17 @@ template <class A, class B> struct Products {
     static constexpr bool folds = A::array && B::array && A::dense && B::dense;
     A a;
     B b;
+    /// Sums of leading objects in wide registers, where no result lies on a source; returns how many.
+    template <Order order, int n> VOKM_INLINE i32 leading(double* dst, i32 count) const
+    {
+        if constexpr (folds && sumsWide<order, n> && requires { a.stride0; b.stride0; }) {
+            if (wideRegisters && count >= 8 && apartFrom(a, n, count, dst) && apartFrom(b, n, count, dst)) {
+                return wideSums<order, n>(a, b, dst, count);
+            }
+        }
+        return 0;
+    }
+    Products from(i32 start) const { return {a.from(start), b.from(start)}; }
     template <class V, int n, class H> VOKM_INLINE void fixedTerms(V (&p)[n], const H& held, i32 i) const
     {
         if constexpr (B::array) {
@@ -153,6 +165,13 @@ VOKM_INLINE vokStatus reduce(Terms terms, Packed<T> dst, i32 n, i32 count, i32 b
     const auto fixed = [&](auto length) VOKM_INLINE_LAMBDA -> vokStatus {
         constexpr int k = decltype(length)::value;
         constexpr Order order = row.order<T>(variant, k);
+        if constexpr (sizeof(T) == 8 && requires { terms.template leading<order, k>(dst.base, count); }) {
+            if (const i32 done = terms.template leading<order, k>(dst.base, count)) {
+                terms = terms.from(done);
+                dst = dst.from(done);
+                count -= done;
+            }
+        }
         const StrideView<T, Code::va> results(dst.base, sizeof(T), 0, sizeof(T));
         const auto guard = lazyGuard<T>(count, [&]() VOKM_INLINE_LAMBDA { return terms.guard(count, results, k); });
         const auto held = terms.template held<T, k>(count >= packLanes<T>);
