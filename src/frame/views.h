@@ -18,7 +18,8 @@ template <class T> constexpr bool badShift(i32 shift) { return shift < 0 || shif
 enum class Unit { none, column, row };
 
 /// One object whose elements lie at fixed distances in bytes.
-template <class T, Unit unit> struct StridedObject {
+template <class T, Unit theUnit> struct StridedObject {
+    static constexpr Unit unit = theUnit;
     T* base;
     i64 rowStep, colStep;
     VOKM_INLINE T& operator()(i32 r, i32 c) const
@@ -30,6 +31,7 @@ template <class T, Unit unit> struct StridedObject {
 
 /// One object whose elements are found through a table of pointers, each behind the same shift.
 template <class T, bool transposed> struct TableObject {
+    static constexpr Unit unit = Unit::none;
     T* const* table;
     i64 shift;
     i32 width;  // of a stored row
