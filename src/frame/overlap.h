@@ -159,6 +159,13 @@ template <class D, class S> [[gnu::noinline]] bool sourceSafe(i32 count, Shaped<
     }
 }
 
+/// Whether the results of a stride or pointer layout lie apart from the source as a whole.
+template <class D, class S> [[gnu::noinline]] bool wholesApart(i32 count, Shaped<D> dst, Shaped<S> src)
+{
+    const i64 objects = count - 1, dStep = D::array ? dst.view.stride0 : 0, sStep = S::array ? src.view.stride0 : 0;
+    return dst.extent(0).through(objects * dStep).disjoint(src.extent(0).through(objects * sStep));
+}
+
 /// Whether nothing that is written is read at another place: the results lie apart from the source as a whole, or exactly on it.
 /// Then no order of the walk can be seen. Lists are not searched: they count as not separate.
 template <class D, class S> [[gnu::noinline]] bool separate(i32 count, Shaped<D> dst, Shaped<S> src)
@@ -168,8 +175,8 @@ template <class D, class S> [[gnu::noinline]] bool separate(i32 count, Shaped<D>
     } else if constexpr (isList<D> || isList<S>) {
         return false;
     } else {
-        const i64 objects = count - 1, dStep = D::array ? dst.view.stride0 : 0, sStep = S::array ? src.view.stride0 : 0;
-        if (dst.extent(0).through(objects * dStep).disjoint(src.extent(0).through(objects * sStep))) return true;
+        if (wholesApart(count, dst, src)) return true;
+        const i64 dStep = D::array ? dst.view.stride0 : 0, sStep = S::array ? src.view.stride0 : 0;
         if constexpr (requires { dst.view.table == src.view.table; }) {
             return dst.view.table == src.view.table && dst.view.shift == src.view.shift && dStep == sStep && !isTransposed(S::code) &&
                    dst.shape.cols == src.shape.cols;

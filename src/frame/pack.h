@@ -188,6 +188,13 @@ template <int K, class Source> VOKM_INLINE void turnRuns(Pack<double>* to, const
     if constexpr (K % 2 == 1) to[k] = Pack<double>{from.one(0, k), from.one(1, k)};
 }
 
+/// The lower half of a register to one place, the upper to another.
+VOKM_INLINE void storeHalves(float* low, float* high, Pack<float> v)
+{
+    _mm_storel_pi(reinterpret_cast<__m64*>(low), __m128(v));
+    _mm_storeh_pi(reinterpret_cast<__m64*>(high), __m128(v));
+}
+
 /// The way back: K lane vectors into the runs of a pack's objects, the objects in ascending order within each block.
 template <int K> VOKM_INLINE void turnBack(float* const* at, const Pack<float>* from, bool packed)
 {
@@ -214,12 +221,8 @@ template <int K> VOKM_INLINE void turnBack(float* const* at, const Pack<float>* 
         storeLanes(at[3] + k, __builtin_shufflevector(AB, CD, 2, 3, 6, 7));
     }
     if constexpr (K % 4 >= 2) {
-        const __m128 ab = __m128(__builtin_shufflevector(from[k], from[k + 1], 0, 4, 1, 5));
-        const __m128 cd = __m128(__builtin_shufflevector(from[k], from[k + 1], 2, 6, 3, 7));
-        _mm_storel_pi(reinterpret_cast<__m64*>(at[0] + k), ab);
-        _mm_storeh_pi(reinterpret_cast<__m64*>(at[1] + k), ab);
-        _mm_storel_pi(reinterpret_cast<__m64*>(at[2] + k), cd);
-        _mm_storeh_pi(reinterpret_cast<__m64*>(at[3] + k), cd);
+        storeHalves(at[0] + k, at[1] + k, __builtin_shufflevector(from[k], from[k + 1], 0, 4, 1, 5));
+        storeHalves(at[2] + k, at[3] + k, __builtin_shufflevector(from[k], from[k + 1], 2, 6, 3, 7));
         k += 2;
     }
     if constexpr (K % 2 == 1) {
