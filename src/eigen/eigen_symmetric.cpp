@@ -54,15 +54,68 @@ VOKM_INLINE vokStatus solveObject(const S& src, const Vectors& vectors, T* matri
     return solveSingle<rules>(matrix, values, vectors, n);
 }
 
+template <class T> using ValuesView = StrideView<T, Code::va, true>;
+
+/// The pack of objects from i on; false if one of them fails, with nothing written.
+template <SymmetricRules rules, int n, class S, class D, class T>
+VOKM_INLINE bool solvePackAt(const S& src, const D& vectors, const ValuesView<T>& values, i32 i)
+{
+    PackSpace<T, n, rules.vectors> space;
+    load(space.matrix, src, i);
+    if constexpr (rules.vectors) space.makeIdentity();
+    if (solvePack<aboveTwo(rules)>(space) != vokStatusOk) return false;
+    if constexpr (rules.vectors) store(space.vectors, vectors, i);
+    store(space.values, values, i);
+    return true;
+}
+
+/// Whether packs change nothing that a caller sees: results apart from later sources and from one another. The vectors are worked
+/// on in place, so their elements have to be distinct places.
+template <class S, class D, class T>
+VOKM_INLINE auto symmetricGuard(i32 n, i32 count, const S& src, const D& vectors, const ValuesView<T>& values)
+{
+    const Shaped<S> from{src, {n, n}};
+    const Shaped<ValuesView<T>> to{values, {1, n}};
+    if constexpr (std::is_same_v<D, NoVectorOperand>) {
+        return packGuard(count, to, from);
+    } else {
+        const Shaped<D> also{vectors, {n, n}};
+        const bool distinct = planesApart(also, 1);
+        const auto first = packGuard(count, to, from, also), second = packGuard(count, also, from);
+        return [=](i32 i) VOKM_INLINE_LAMBDA { return distinct && first(i) && second(i); };
+    }
+}
+
 template <SymmetricRules rules, class S, class D, class T>
 VOKM_INLINE vokStatus symmetricObjects(S src, D vectors, T* matrix, T* values, i32 n, i32 count)
 {
-    for (i32 i = 0; i < count; ++i) {
-        const vokStatus status =
-            solveObject<rules>(src.object(i, {n, n}), vectors.object(i, {n, n}), matrix, values + i64(i) * n, n);
-        if (status != vokStatusOk) return status;
+    const auto run = [&](i32 first, i32 end) VOKM_INLINE_LAMBDA {
+        vokStatus status = vokStatusOk;
+        for (i32 i = first; i < end && status == vokStatusOk; ++i) {
+            status = solveObject<rules>(src.object(i, {n, n}), vectors.object(i, {n, n}), matrix, values + i64(i) * n, n);
+        }
+        return status;
+    };
+    if constexpr (S::array) {
+        constexpr i32 N = packLanes<T>;
+        if (count >= N && n >= 3 && n <= 6) {
+            const ValuesView<T> packed{values, n * static_cast<i32>(sizeof(T)), 0, sizeof(T)};
+            const auto guard = symmetricGuard(n, count, src, vectors, packed);
+            const auto pack = [&](i32 i) VOKM_INLINE_LAMBDA {
+                return onFixed(
+                    n,
+                    [&](auto size)
+                        VOKM_INLINE_LAMBDA { return solvePackAt<rules, decltype(size)::value>(src, vectors, packed, i); },
+                    [] { return false; });
+            };
+            for (i32 i = 0; i < count; i += N) {
+                if (i + N <= count && guard(i) && pack(i)) continue;
+                if (const vokStatus status = run(i, std::min(count, i + N))) return status;
+            }
+            return vokStatusOk;
+        }
     }
-    return vokStatusOk;
+    return run(0, count);
 }
 
 template <Variant variant, class S, class T>

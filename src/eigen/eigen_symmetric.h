@@ -59,6 +59,13 @@ constexpr SymmetricRules vectors32List{true, -23, -23, -52, -23, true, Stands::b
 constexpr SymmetricRules vectors64One{true, -52, -52, -52, -52, false, Stands::afterSort, false};
 constexpr SymmetricRules vectors64Array{true, -52, -52, -52, -23, false, Stands::beforeSort, false};
 
+/// The rules without what concerns size 2 alone: kernels that differ in that share their code for larger ones.
+constexpr SymmetricRules aboveTwo(SymmetricRules rules)
+{
+    rules.determinant = rules.eps;
+    return rules;
+}
+
 /// The rules of a family's kernels, by form, element type and Variant: plain, S2, P, L, LS2.
 using RuleTable = SymmetricRules[2][2][5];
 constexpr RuleTable valueRules{{{values32One, values32, values32}, {values64, values64, values64}},

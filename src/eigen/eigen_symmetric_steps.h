@@ -34,7 +34,16 @@ template <class V> VOKM_INLINE V onlyWhere(Condition<V> condition, V x)
     }
 }
 
-template <class V> VOKM_INLINE void setWhere(Condition<V> condition, V& x, V value) { x = condition ? value : x; }
+template <class V> VOKM_INLINE V select(Condition<V> condition, V x, V y)
+{
+    if constexpr (isPack<V>) {
+        return V((condition & (Condition<V>)x) | (~condition & (Condition<V>)y));
+    } else {
+        return condition ? x : y;
+    }
+}
+
+template <class V> VOKM_INLINE void setWhere(Condition<V> condition, V& x, V value) { x = select(condition, value, x); }
 
 template <class V> VOKM_INLINE void exchangeWhere(Condition<V> condition, V& x, V& y)
 {
@@ -94,12 +103,12 @@ template <class T, int size, bool withVectors> struct PackSpace {
     using Value = Pack<T>;
     using Mask = Condition<Value>;
     static constexpr int fixed = size, n = size, nv = withVectors ? size : 1;
-    Value matrix[n][n], values[n], vectors[nv][nv];
+    Value matrix[n][n], values[1][n], vectors[nv][nv];
     Value diagonal[n], below[n];
     Mask ql;
 
     VOKM_INLINE Value& a(i32 i, i32 j) { return matrix[i][j]; }
-    VOKM_INLINE Value& u(i32 i) { return values[i]; }
+    VOKM_INLINE Value& u(i32 i) { return values[0][i]; }
     VOKM_INLINE i32 at(i32 i) const { return i; }
     VOKM_INLINE Value& d(i32 i) { return diagonal[i]; }
     VOKM_INLINE Value& e(i32 i) { return below[i]; }
@@ -107,9 +116,15 @@ template <class T, int size, bool withVectors> struct PackSpace {
     VOKM_INLINE void direct(Mask downwards)
     {
         ql = downwards;
-        for (int i = 0; i < n; ++i) diagonal[i] = ql ? matrix[i][i] : matrix[n - 1 - i][n - 1 - i];
-        for (int i = 0; i < n - 1; ++i) below[i] = ql ? matrix[i + 1][i] : matrix[n - 1 - i][n - 2 - i];
+        for (int i = 0; i < n; ++i) diagonal[i] = select(ql, matrix[i][i], matrix[n - 1 - i][n - 1 - i]);
+        for (int i = 0; i < n - 1; ++i) below[i] = select(ql, matrix[i + 1][i], matrix[n - 1 - i][n - 2 - i]);
         turnVectors();
+    }
+    VOKM_INLINE void makeIdentity()
+    {
+        for (int r = 0; r < nv; ++r) {
+            for (int c = 0; c < nv; ++c) vectors[r][c] = splat<Value>(r == c ? 1 : 0);
+        }
     }
     VOKM_INLINE void turnVectors()
     {
@@ -120,7 +135,7 @@ template <class T, int size, bool withVectors> struct PackSpace {
     VOKM_INLINE void record(Mask, const Block<Value, size>&) const {}
     VOKM_INLINE void finish()
     {
-        for (int i = 0; i < n; ++i) values[i] = ql ? diagonal[i] : diagonal[n - 1 - i];
+        for (int i = 0; i < n; ++i) values[0][i] = select(ql, diagonal[i], diagonal[n - 1 - i]);
         turnVectors();
     }
 };
@@ -173,14 +188,14 @@ template <SymmetricRules rules, class Space> VOKM_INLINE void reduce(Space& s)
         const V alpha = root(sigma), x = s.a(k + 1, k);
         Condition<V> where = always<V>();
         if constexpr (rules.vectors) {
-            where = isNot(magnitude(alpha - x) <= eps);
+            where = isNot(atMost(magnitude(alpha - x), eps));
             if (!any(where)) continue;
         }
         for (i32 i = k + 2; i < s.n; ++i) s.u(i) = s.a(i, k);
-        const auto positive = x > eps, none = magnitude(x) <= eps;
-        s.u(k + 1) = positive ? x + alpha : none ? alpha : x - alpha;
-        const V h = positive ? two * (sigma + alpha * x) : none ? sigma + sigma : two * (sigma - alpha * x);
-        where = where & isNot(h <= eps);
+        const auto positive = above(x, eps), none = atMost(magnitude(x), eps);
+        s.u(k + 1) = select(positive, x + alpha, select(none, alpha, x - alpha));
+        const V h = select(positive, two * (sigma + alpha * x), select(none, sigma + sigma, two * (sigma - alpha * x)));
+        where = where & isNot(atMost(h, eps));
         if (!any(where)) continue;
         const V beta = two / h;
         reflect(s, k, beta, where);
@@ -213,7 +228,7 @@ VOKM_INLINE void pass(Space& space, i32 l, const B& block, Condition<V> open, V 
         const V f = s * space.e(i), b = c * space.e(i), oldD = space.d(i + 1);
         r = root(f * f + g * g);
         if (i < block.last()) setWhere(here & block.has(i + 1), space.e(i + 1), r);
-        const Condition<V> small = here & (magnitude(r) <= eps);
+        const Condition<V> small = here & atMost(magnitude(r), eps);
         if (any(small)) {  // the lane leaves at once; the element at the block's end is cut off
             setWhere(small, space.d(i + 1), oldD - p);
             for (i32 j = block.last(); j >= i; --j) {
@@ -234,7 +249,7 @@ VOKM_INLINE void pass(Space& space, i32 l, const B& block, Condition<V> open, V 
         r = q;
     }
     // Deliberate: this step can be left out for a small last r; going downwards it is forced for the first element alone.
-    const auto large = magnitude(r) > eps, notSmall = isNot(magnitude(r) <= eps);
+    const auto large = above(magnitude(r), eps), notSmall = isNot(atMost(magnitude(r), eps));
     const Condition<V> closes = going & (large | (space.ql & (l == 0 ? always<V>() : notSmall)));
     setWhere(closes, space.d(l), space.d(l) - p);
     setWhere(closes, space.e(l), g);
@@ -249,7 +264,7 @@ VOKM_INLINE void search(Space& s, i32 l, B& block, Condition<V> open, V& atEnd)
     Condition<V> inside = open;
     for (i32 i = l; i < s.n - 1; ++i) {
         const V size = magnitude(half * s.e(i));
-        inside = inside & ((size > eps) | (isNot(s.ql) & isNot(size <= eps)));
+        inside = inside & (above(size, eps) | (isNot(s.ql) & isNot(atMost(size, eps))));
         if (!any(inside)) break;
         block.add(i, inside);
         setWhere(inside, atEnd, s.d(i + 1));
@@ -265,7 +280,7 @@ template <SymmetricRules rules, class Space, class V> VOKM_INLINE V shifted(Spac
     if constexpr (rules.shiftInDouble && !isPack<V>) {
         if (s.ql) r = static_cast<V>(root(static_cast<double>(g * g) + 1.0));
     }
-    return atEnd - s.d(l) + e / (g > eps ? g + r : g - r);
+    return atEnd - s.d(l) + e / select(above(g, eps), g + r, g - r);
 }
 
 /// Whether every lane converged. Without vectors the QR iteration multiplies `product` by each d[m] at which a search stops,
@@ -280,7 +295,8 @@ template <SymmetricRules rules, class Space, class V> VOKM_INLINE bool iterate(S
             V atEnd;
             search<rules>(s, l, block, open, atEnd);
             if constexpr (!rules.vectors) {
-                const Condition<V> stopped = open & isNot(s.ql) & isNot(block.has(s.n - 2));
+                const Condition<V> within = isNot(block.has(s.n - 2)), upwards = isNot(s.ql);
+                const Condition<V> stopped = open & within & upwards;
                 setWhere(stopped, product, product * atEnd);
                 s.record(stopped, block);
             }
@@ -301,7 +317,7 @@ template <SymmetricRules rules, class Space, class V> VOKM_INLINE bool singular(
         V product = splat<V>(1);
         for (i32 i = 0; i < s.n; ++i) product = product * s.u(i);
         setWhere(isNot(s.ql), product, recorded * s.u(0));
-        return any(magnitude(product) <= splat<V>(powerOfTwo<T>(rules.product)));
+        return any(atMost(magnitude(product), splat<V>(powerOfTwo<T>(rules.product))));
     } else {
         using P = std::conditional_t<rules.productInDouble, double, T>;
         const auto near0 = [&](auto value) VOKM_INLINE_LAMBDA {
@@ -325,8 +341,8 @@ template <bool vectors, class Space> VOKM_INLINE void sort(Space& s)
     using V = typename Space::Value;
     for (i32 i = 0; i < s.n - 1; ++i) {
         V best = s.u(i + 1);
-        for (i32 j = i + 2; j < s.n; ++j) best = s.u(j) > best ? s.u(j) : best;
-        Condition<V> wanted = best > s.u(i);
+        for (i32 j = i + 2; j < s.n; ++j) best = select(above(s.u(j), best), s.u(j), best);
+        Condition<V> wanted = above(best, s.u(i));
         for (i32 j = i + 1; j < s.n && any(wanted); ++j) {
             const Condition<V> here = wanted & (s.u(j) == best);
             if (!any(here)) continue;
@@ -344,7 +360,7 @@ template <SymmetricRules rules, class Space> VOKM_INLINE vokStatus solve(Space& 
 {
     using V = typename Space::Value;
     reduce<rules>(s);
-    s.direct(magnitude(s.a(s.n - 1, s.n - 1)) > magnitude(s.a(0, 0)));
+    s.direct(above(magnitude(s.a(s.n - 1, s.n - 1)), magnitude(s.a(0, 0))));
     V product = splat<V>(1);
     if (!iterate<rules>(s, product)) return vokStatusNoConvergence;
     s.finish();

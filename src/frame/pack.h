@@ -96,6 +96,17 @@ inline Pack<float> inverseRootInDouble(Pack<float> x)
     return Pack<float>(_mm_movelh_ps(_mm_cvtpd_ps(__m128d(1.0 / root(low))), _mm_cvtpd_ps(__m128d(1.0 / root(high)))));
 }
 
+/// x > y and x <= y lane by lane, as masks that are combined freely: g++ 12 joins two comparisons of doubles written with the
+/// operators into one that it cannot expand for SSE3. Neither holds for not-a-number.
+inline bool above(float x, float y) { return x > y; }
+inline bool above(double x, double y) { return x > y; }
+inline bool atMost(float x, float y) { return x <= y; }
+inline bool atMost(double x, double y) { return x <= y; }
+inline auto above(Pack<float> x, Pack<float> y) { return decltype(x > y)(_mm_cmpgt_ps(__m128(x), __m128(y))); }
+inline auto above(Pack<double> x, Pack<double> y) { return decltype(x > y)(_mm_cmpgt_pd(__m128d(x), __m128d(y))); }
+inline auto atMost(Pack<float> x, Pack<float> y) { return decltype(x > y)(_mm_cmple_ps(__m128(x), __m128(y))); }
+inline auto atMost(Pack<double> x, Pack<double> y) { return decltype(x > y)(_mm_cmple_pd(__m128d(x), __m128d(y))); }
+
 /// Whether a lane-wise condition holds in every lane, or in any.
 inline bool all(bool condition) { return condition; }
 inline bool any(bool condition) { return condition; }
