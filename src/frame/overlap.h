@@ -224,6 +224,15 @@ template <class D, class... S> bool packSafe(i32 i, const Shaped<D>& dst, const 
     return (laterSourcesApart(i, dst, src) && ...);
 }
 
+/// Whether no object of the pack from i on shares memory with the source of its own result.
+template <class D, class S> [[gnu::noinline]] bool objectsApart(i32 i, Shaped<D> dst, Shaped<S> src)
+{
+    for (int k = 0; k < packLanes<typename D::element>; ++k) {
+        if (!dst.extent(i + k).disjoint(src.extent(i + k))) return false;
+    }
+    return true;
+}
+
 template <class View> constexpr bool isConstant = View::code == Code::c;
 
 /// One answer for all packs of a call.

@@ -73,6 +73,10 @@ inline double larger(double x, double y) { return x > y ? x : y; }
 inline Pack<float> larger(Pack<float> x, Pack<float> y) { return Pack<float>(_mm_max_ps(__m128(x), __m128(y))); }
 inline Pack<double> larger(Pack<double> x, Pack<double> y) { return Pack<double>(_mm_max_pd(__m128d(x), __m128d(y))); }
 
+/// The processor's estimate of 1/x, of about 12 bits; the same bits for one value as for a pack.
+inline float reciprocalEstimate(float x) { return _mm_cvtss_f32(_mm_rcp_ss(_mm_set_ss(x))); }
+inline Pack<float> reciprocalEstimate(Pack<float> x) { return Pack<float>(_mm_rcp_ps(__m128(x))); }
+
 /// The root of a 32-bit sum taken in 64 bits and rounded back.
 inline float rootInDouble(float x) { return static_cast<float>(std::sqrt(static_cast<double>(x))); }
 inline double rootInDouble(double x) { return std::sqrt(x); }

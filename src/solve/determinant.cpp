@@ -8,32 +8,10 @@
 //   other sizes    elimination with partial pivoting in the buffer, a division for each row
 #include "determinant.h"
 
-#include <bit>
-
+#include "minors.h"
 #include "scratch_elimination.h"
 
 namespace vokm {
-
-/// The sum of the terms with alternating signs, the last of them positive: -+-+ or +-+.
-template <class V, int k> VOKM_INLINE V alternatingToPlus(const V (&x)[k])
-{
-    V s = k % 2 == 0 ? x[1] - x[0] : x[0] - x[1];
-    VOKM_UNROLL for (int q = 2; q < k; ++q) s = (k - q) % 2 == 0 ? s - x[q] : s + x[q];
-    return s;
-}
-
-/// The minor of the first rows, as many as there are columns in the set, by the minors without the last of these rows.
-template <unsigned columns, class V, int n> VOKM_INLINE V minorOf(const V (&a)[n][n], const V (&smaller)[1 << n])
-{
-    constexpr int k = std::popcount(columns);
-    V x[k];
-    int q = 0;
-    VOKM_UNROLL for (int c = 0; c < n; ++c)
-    {
-        if (columns >> c & 1u) x[q++] = a[k - 1][c] * smaller[columns & ~(1u << c)];
-    }
-    return alternatingToPlus(x);
-}
 
 template <class V> VOKM_INLINE V determinant(const V (&a)[3][3])
 {
@@ -54,21 +32,15 @@ template <class V> VOKM_INLINE V determinant(const V (&a)[4][4])
 
 template <class V, int n> VOKM_INLINE V determinant(const V (&a)[n][n])
 {
-    V minors[1 << n];  // by sets of columns
-    const auto level = [&]<int k>(std::integral_constant<int, k>) VOKM_INLINE_LAMBDA {
-        [&]<std::size_t... set>(std::index_sequence<set...>) VOKM_INLINE_LAMBDA {
-            const auto one = [&]<unsigned columns>(std::integral_constant<unsigned, columns>) VOKM_INLINE_LAMBDA {
-                if constexpr (k == 1 && std::popcount(columns) == 1) {
-                    minors[columns] = a[0][std::countr_zero(columns)];
-                } else if constexpr (std::popcount(columns) == k) {
-                    minors[columns] = minorOf<columns>(a, minors);
-                }
-            };
-            (one(std::integral_constant<unsigned, set>{}), ...);
-        }(std::make_index_sequence<1 << n>());
+    Minors<V, n> minors;  // of the first rows
+    const auto addRow = [&]<int k>(std::integral_constant<int, k>) VOKM_INLINE_LAMBDA {
+        const auto row = [&](int c) VOKM_INLINE_LAMBDA { return a[k - 1][c]; };
+        overSets<n, k>([&]<unsigned columns>(std::integral_constant<unsigned, columns>) VOKM_INLINE_LAMBDA {
+            minors[columns] = expansion<columns, Members::ascending>(row, minors);
+        });
     };
     [&]<int... k>(std::integer_sequence<int, k...>) VOKM_INLINE_LAMBDA {
-        (level(std::integral_constant<int, k + 1>{}), ...);
+        (addRow(std::integral_constant<int, k + 1>{}), ...);
     }(std::make_integer_sequence<int, n - 1>());
     constexpr unsigned whole = (1u << n) - 1;
     V d = a[n - 1][n - 1] * minors[whole & ~(1u << (n - 1))];

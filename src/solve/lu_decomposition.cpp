@@ -22,20 +22,19 @@ template <class V, int n> VOKM_INLINE int eliminate(V (&a)[n][n], Index<V> (&p)[
     VOKM_UNROLL for (int i = 0; i < n; ++i) p[i] = index<V>(i);
     VOKM_UNROLL for (int k = 0; k < n - 1; ++k)
     {
-        Search<V, n> search(magnitude(a[k][k]));
+        Search<V, n> search(k, magnitude(a[k][k]));
         VOKM_UNROLL for (int i = k + 1; i < n; ++i) search.candidate(i, magnitude(a[i][k]));
-        search.decide(k + 1);
-        VOKM_UNROLL for (int i = k + 1; i < n; ++i)
-        {
-            VOKM_UNROLL for (int j = 0; j < n; ++j) exchange(search.led[i], a[k][j], a[i][j]);
-            exchange(search.led[i], p[k], p[i]);
-        }
+        search.decide();
+        search.exchange([&](int i) VOKM_INLINE_LAMBDA -> auto& { return p[i]; });
         if (any(limit > search.best)) return k;
+        // Column by column, so that a column is read and written once for the exchange and the elimination.
+        VOKM_UNROLL for (int j = 0; j <= k; ++j) search.exchange([&](int i) VOKM_INLINE_LAMBDA -> V& { return a[i][j]; });
         const V r = splat<V>(1) / a[k][k];
-        VOKM_UNROLL for (int i = k + 1; i < n; ++i)
+        VOKM_UNROLL for (int i = k + 1; i < n; ++i) a[i][k] = a[i][k] * r;
+        VOKM_UNROLL for (int j = k + 1; j < n; ++j)
         {
-            a[i][k] = a[i][k] * r;
-            VOKM_UNROLL for (int j = k + 1; j < n; ++j) a[i][j] = a[i][j] - a[i][k] * a[k][j];
+            search.exchange([&](int i) VOKM_INLINE_LAMBDA -> V& { return a[i][j]; });
+            VOKM_UNROLL for (int i = k + 1; i < n; ++i) a[i][j] = a[i][j] - a[i][k] * a[k][j];
         }
     }
     return any(limit > magnitude(a[n - 1][n - 1])) ? n - 1 : n;

@@ -35,17 +35,8 @@ template <class T> constexpr T sizeThreshold(i32 n)
     return static_cast<T>((Wrap(2) * n * n * n).value()) * std::numeric_limits<T>::min();
 }
 
-inline bool without(bool a, bool b) { return a && !b; }
-template <class M> VOKM_INLINE M without(M a, M b) { return a & ~b; }
-
-/// Exchanges x and y where the mask is set.
-template <class X> VOKM_INLINE void exchange(bool mask, X& x, X& y)
-{
-    if (mask) std::swap(x, y);
-}
-template <class X, class M>
-    requires(!std::is_same_v<M, bool>)
-VOKM_INLINE void exchange(M mask, X& x, X& y)
+/// Exchanges x and y in the lanes where the mask is set.
+template <class X, class M> VOKM_INLINE void exchange(M mask, X& x, X& y)
 {
     const M d = (M(x) ^ M(y)) & mask;
     x = X(M(x) ^ d);
@@ -57,26 +48,53 @@ template <class T> using DenseObject = StridedObject<T, Unit::column>;
 template <class T> using AnyObject = StridedObject<T, Unit::none>;
 template <class T> using PointedObject = TableObject<T, false>;
 
-/// A search for the largest magnitude. Candidates come in order; one that is strictly greater than all before it takes the
-/// lead, so among equals the first wins, and NaN never does. The start is a candidate that stays unless it is beaten.
-template <class V, int n> struct Search {
+/// A search for the largest magnitude, and the exchange that follows. Candidates come in order; one that is strictly greater
+/// than all before it takes the lead, so among equals the first wins; or one that is not smaller, so that the last does. NaN
+/// never wins, and a start that is NaN stays. Packs keep a mask for each candidate, one object the number of the winner.
+enum class AmongEquals { first, last };
+template <class V, int n, AmongEquals equals = AmongEquals::first> struct Search {
     V best;
-    Mask<V> led[n];
-    VOKM_INLINE explicit Search(V start) : best(start) {}
+    int start;
+    std::conditional_t<isPack<V>, Mask<V>[n], int> won;
+
+    VOKM_INLINE Search(int place, V magnitudeThere) : best(magnitudeThere), start(place)
+    {
+        if constexpr (!isPack<V>) won = place;
+    }
     VOKM_INLINE void candidate(int i, V magnitudeOfIt)
     {
-        led[i] = magnitudeOfIt > best;
+        const Mask<V> leads = equals == AmongEquals::first ? magnitudeOfIt > best : magnitudeOfIt >= best;
+        if constexpr (isPack<V>) {
+            won[i] = leads;
+        } else {
+            won = leads ? i : won;
+        }
         best = larger(magnitudeOfIt, best);
     }
-    /// Turns led[i] of the candidates first .. n-1 into "i has won": the last to take the lead.
-    VOKM_INLINE void decide(int first)
+    /// Behind the last of the candidates start+1 .. n-1: of those who led, the last has won.
+    VOKM_INLINE void decide()
     {
-        Mask<V> taken{};
-        VOKM_UNROLL for (int i = n - 1; i >= first; --i)
-        {
-            const Mask<V> behind = taken;
-            taken = taken | led[i];
-            led[i] = without(led[i], behind);
+        if constexpr (isPack<V>) {
+            Mask<V> taken{};
+            VOKM_UNROLL for (int i = n - 1; i > start; --i)
+            {
+                const Mask<V> behind = taken;
+                taken = taken | won[i];
+                won[i] = won[i] & ~behind;
+                // Not known as a comparison any more: else exchanges become selections, which take more operations.
+                asm("" : "+x"(won[i]));
+            }
+        }
+    }
+    /// Exchanges at(start) with the winner's at(i), lane by lane.
+    template <class At> VOKM_INLINE void exchange(At at) const
+    {
+        if constexpr (isPack<V>) {
+            auto x = at(start);
+            VOKM_UNROLL for (int i = start + 1; i < n; ++i) vokm::exchange(won[i], x, at(i));
+            at(start) = x;
+        } else {
+            std::swap(at(start), at(won));
         }
     }
 };
