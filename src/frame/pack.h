@@ -55,6 +55,16 @@ template <class V> VOKM_INLINE V splat(Element<V> x)
     }
 }
 
+/// The pack whose lanes are of(0), of(1), ...
+template <class V, class Of> VOKM_INLINE V fromLanes(Of of)
+{
+    if constexpr (lanesIn<V> == 4) {
+        return V{of(0), of(1), of(2), of(3)};
+    } else {
+        return V{of(0), of(1)};
+    }
+}
+
 /// The square root, correctly rounded in the type of each lane.
 inline float root(float x) { return std::sqrt(x); }
 inline double root(double x) { return std::sqrt(x); }
@@ -277,6 +287,36 @@ template <class T, Code theCode, int R, int C> struct Planes {
     }
 };
 
+/// Dense R x C objects that follow one another without a gap: every distance a constant.
+template <class T, Code theCode, int R, int C> struct TightView {
+    using element = T;
+    static constexpr Code code = theCode;
+    static constexpr bool array = true, dense = true;
+    static constexpr i32 stride0 = R * C * sizeof(T), stride1 = C * sizeof(T), stride2 = sizeof(T);
+    T* base;
+
+    VOKM_INLINE auto object(i32 i, Shape) const
+    {
+        return StridedObject<T, Unit::column>{byBytes(base, i64(i) * stride0), stride1, stride2};
+    }
+};
+/// Whether an operand is an array of such objects, and then its view as one.
+template <int R, int C, class View> VOKM_INLINE bool isTight(const View&) { return false; }
+template <int R, int C, class T, Code code>
+    requires(isArray(code) && !isTransposed(code) && code != Code::ca)
+VOKM_INLINE bool isTight(const StrideView<T, code, true>& view)
+{
+    using Tight = TightView<T, code, R, C>;
+    return view.stride0 == Tight::stride0 && (R == 1 || view.stride1 == Tight::stride1);
+}
+template <class View> constexpr bool mayBeTight = false;
+template <class T, Code code>
+constexpr bool mayBeTight<StrideView<T, code, true>> = isArray(code) && !isTransposed(code) && code != Code::ca;
+template <int R, int C, class T, Code code> VOKM_INLINE auto asTight(const StrideView<T, code, true>& view)
+{
+    return TightView<T, code, R, C>{view.base};
+}
+
 /// The view as a walk over R x C objects uses it.
 template <int R, int C, class View> VOKM_INLINE auto pinned(const View& view) { return view; }
 template <int R, int C, class T, Code code> VOKM_INLINE auto pinned(const TableView<T, code>& view)
@@ -351,9 +391,7 @@ template <int R, int C, class T, class View> VOKM_INLINE void loadStored(Pack<T>
 /// Element (r, c) of the objects of a pack, lane by lane.
 template <class V, class View> VOKM_INLINE V gather(const View& view, i32 i, Shape shape, int r, int c)
 {
-    V v{};
-    for (int lane = 0; lane < lanesIn<V>; ++lane) v[lane] = view.object(i + lane, shape)(r, c);
-    return v;
+    return fromLanes<V>([&](int lane) VOKM_INLINE_LAMBDA { return view.object(i + lane, shape)(r, c); });
 }
 
 /// Loads object i, or the pack of objects from i on; a single operand goes to every lane.

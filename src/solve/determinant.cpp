@@ -65,20 +65,25 @@ template <int n, class T, class S> [[gnu::noinline]] vokStatus determinantsFixed
 {
     constexpr Shape shape{n, n};
     const StrideView<T, Code::va> results(dst, sizeof(T), 0, sizeof(T));
-    const auto from = pinned<n, n>(src);
     const auto guard = lazyGuard<T>(count, [&]() VOKM_INLINE_LAMBDA {
         return packGuard(count, Shaped<StrideView<T, Code::va>>{results, {1, 1}}, Shaped<S>{src, shape});
     });
-    walkGuarded<T>(count, guard, [&](auto as, i32 i) VOKM_INLINE_LAMBDA {
-        if constexpr (isPack<typename decltype(as)::type>) {
-            Pack<T> a[n][n];
-            load(a, from, i);
-            storeLanes(dst + i, determinant(a));
-        } else {
-            dst[i] = determinantOf<n, T>(from.object(i, shape));
-        }
-    });
-    return vokStatusOk;
+    const auto run = [&](auto from) VOKM_INLINE_LAMBDA {
+        walkGuarded<T>(count, guard, [&](auto as, i32 i) VOKM_INLINE_LAMBDA {
+            if constexpr (isPack<typename decltype(as)::type>) {
+                Pack<T> a[n][n];
+                load(a, from, i);
+                storeLanes(dst + i, determinant(a));
+            } else {
+                dst[i] = determinantOf<n, T>(from.object(i, shape));
+            }
+        });
+        return vokStatusOk;
+    };
+    if constexpr (mayBeTight<S>) {
+        if (isTight<n, n>(src)) return run(asTight<n, n>(src));
+    }
+    return run(pinned<n, n>(src));
 }
 
 /// One object of any size. A matrix without a large enough pivot has determinant 0; among the objects of an array that 0 is the

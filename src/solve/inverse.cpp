@@ -137,8 +137,8 @@ template <class Of3, class Of4, class Of5, class Of6> struct Methods {
 //                                  size 3                                     size 4                      size 5                     size 6
 using OneDense32   = Methods<OnTile<ByAdjugate<Adjugate::estimate>, 3>, ByCramer,                 ByBorders<1>,             ByBorders<2>>;
 using ArrayDense32 = Methods<OnTile<ByAdjugate<Adjugate::array32>, 3>,  ByCramer,                 ByBorders<1>,             ByBorders<2>>;
-using Dense64      = Methods<OnTile<ByAdjugate<Adjugate::dense64>, 3>,  OnTile<ByLaplace<2>, 4>,  OnTile<ByLaplace<>, 5>,   OnTile<ByLaplace<>, 6>>;
-using AnyStride    = Methods<OnTile<ByAdjugate<Adjugate::any>, 3>,      OnTile<ByLaplace<>, 4>,   OnTile<ByLaplace<>, 5>,   OnTile<ByLaplace<>, 6>>;
+using Dense64      = Methods<OnTile<ByAdjugate<Adjugate::dense64>, 3>,  OnTile<ByHalves<2>, 4>,   OnTile<ByLaplace, 5>,   OnTile<ByLaplace, 6>>;
+using AnyStride    = Methods<OnTile<ByAdjugate<Adjugate::any>, 3>,      OnTile<ByHalves<>, 4>,    OnTile<ByLaplace, 5>,   OnTile<ByLaplace, 6>>;
 // clang-format on
 
 /// 32f: one matrix with dense rows, and lists of them, take OneDense32, arrays of them in the stride layout ArrayDense32 (their
@@ -158,30 +158,34 @@ template <class S, class D> bool inPairs(const S& src, const D& dst)
 template <class Method, int n, bool pairs, class T, class S, class D> [[gnu::noinline]] vokStatus invertFixed(S src, D dst, i32 count)
 {
     constexpr Shape shape{n, n};
-    const auto from = pinned<n, n>(src);
-    const auto to = pinned<n, n>(dst);
     const auto guard = lazyGuard<T>(count, [&]() VOKM_INLINE_LAMBDA { return packGuard(count, Shaped<D>{dst, shape}, Shaped<S>{src, shape}); });
     const auto safe = [&](i32 i) VOKM_INLINE_LAMBDA {
         if constexpr (std::is_same_v<Method, ByBorders<2>>) return guard(i) && objectsApart(i, Shaped<D>{dst, shape}, Shaped<S>{src, shape});
         return guard(i);
     };
-    const auto pack = [&](i32 i) VOKM_INLINE_LAMBDA {
-        Pack<T> a[n][n];
-        load(a, from, i);
-        if (!Method::invert(a)) return false;
-        store(a, to, i);
-        return true;
-    };
-    const auto one = [&](i32 i) VOKM_INLINE_LAMBDA -> vokStatus {
-        if constexpr (pairs) {
-            if (i % 2 == 1) return vokStatusOk;  // went with the object before it
-            if (i + 1 < count) {
-                return Method::two(from.object(i, shape), from.object(i + 1, shape), to.object(i, shape), to.object(i + 1, shape));
+    const auto run = [&](auto from, auto to) VOKM_INLINE_LAMBDA {
+        const auto pack = [&](i32 i) VOKM_INLINE_LAMBDA {
+            Pack<T> a[n][n];
+            load(a, from, i);
+            if (!Method::invert(a)) return false;
+            store(a, to, i);
+            return true;
+        };
+        const auto one = [&](i32 i) VOKM_INLINE_LAMBDA -> vokStatus {
+            if constexpr (pairs) {
+                if (i % 2 == 1) return vokStatusOk;  // went with the object before it
+                if (i + 1 < count) {
+                    return Method::two(from.object(i, shape), from.object(i + 1, shape), to.object(i, shape), to.object(i + 1, shape));
+                }
             }
-        }
-        return Method::one(from.object(i, shape), to.object(i, shape));
+            return Method::one(from.object(i, shape), to.object(i, shape));
+        };
+        return walkFailing<T>(count, safe, pack, one);
     };
-    return walkFailing<T>(count, safe, pack, one);
+    if constexpr (mayBeTight<S> && mayBeTight<D>) {
+        if (isTight<n, n>(src) && isTight<n, n>(dst)) return run(asTight<n, n>(src), asTight<n, n>(dst));
+    }
+    return run(pinned<n, n>(src), pinned<n, n>(dst));
 }
 
 /// One object of any size but 1, by cofactors: each is the determinant of what remains without a row and a column, by

@@ -82,10 +82,53 @@ template <Adjugate kind> struct ByAdjugate {
     }
 };
 
-/// Sizes 4 to 6 by Laplace expansion: minors of the last columns, each from those without its leftmost column, from the bottom
+/// Size 4 by the 2x2 minors of the upper and of the lower two rows, m(c,d) = a(0,c)*a(1,d) - a(0,d)*a(1,c): a cofactor of the upper
+/// rows is a sum of three of their elements, columns ascending, times minors of the lower rows, and the other way round. The
+/// determinant is the expansion down column 0, (a00*C0 + a10*C1) + (a20*C2 + a30*C3), and entries are C/det.
+template <int thresholds = 1> struct ByHalves {
+    template <class V> VOKM_INLINE static bool invert(V (&a)[4][4])
+    {
+        V minor[2][4][4];
+        VOKM_UNROLL for (int half = 0; half < 2; ++half)
+        {
+            VOKM_UNROLL for (int c = 0; c < 4; ++c)
+            {
+                VOKM_UNROLL for (int d = c + 1; d < 4; ++d)
+                {
+                    minor[half][c][d] = a[2 * half][c] * a[2 * half + 1][d] - a[2 * half][d] * a[2 * half + 1][c];
+                }
+            }
+        }
+        // The cofactor of row i and column j: the other row of i's half times minors of the other half, in the columns but j.
+        const auto cofactor = [&](int i, int j) VOKM_INLINE_LAMBDA {
+            const V(&x)[4] = a[i ^ 1];
+            const V(&m)[4][4] = minor[1 - i / 2];
+            const int c = j == 0 ? 1 : 0, d = j <= 1 ? 2 : 1, e = j == 3 ? 2 : 3;
+            const V p = x[c] * m[d][e], q = x[d] * m[c][e], r = x[e] * m[c][d];
+            return (i + j) % 2 == 0 ? (p - q) + r : (q - p) - r;
+        };
+        V inverse[4][4];
+        VOKM_UNROLL for (int i = 0; i < 4; ++i) inverse[0][i] = cofactor(i, 0);
+        const V det = (a[0][0] * inverse[0][0] + a[1][0] * inverse[0][1]) + (a[2][0] * inverse[0][2] + a[3][0] * inverse[0][3]);
+        if (any(splat<V>(thresholds * sizeThreshold<Element<V>>(4)) > magnitude(det))) return false;
+        const V r = splat<V>(1) / det;
+        VOKM_UNROLL for (int i = 0; i < 4; ++i) inverse[0][i] = inverse[0][i] * r;
+        VOKM_UNROLL for (int j = 1; j < 4; ++j)
+        {
+            VOKM_UNROLL for (int i = 0; i < 4; ++i) inverse[j][i] = cofactor(i, j) * r;
+        }
+        VOKM_UNROLL for (int j = 0; j < 4; ++j)
+        {
+            VOKM_UNROLL for (int i = 0; i < 4; ++i) a[j][i] = inverse[j][i];
+        }
+        return true;
+    }
+};
+
+/// Sizes 5 and 6 by Laplace expansion: minors of the last columns, each from those without its leftmost column, from the bottom
 /// row of its rows up; the cofactors of another column q skip it on the way. The determinant is expanded down column 0 from
 /// the bottom row up, and entries are (minor)*r or (0 - minor)*r with r = 1/det.
-template <int thresholds = 1> struct ByLaplace {
+struct ByLaplace {
     /// Minors with one more column on the left, by sets of k rows.
     template <int k, class V, int n> VOKM_INLINE static void addColumn(const V (&a)[n][n], int c, const V (&from)[1 << n], V (&to)[1 << n])
     {
@@ -120,7 +163,7 @@ template <int thresholds = 1> struct ByLaplace {
             (addColumn<k + 1, V, n>(a, n - 1 - k, behind, behind), ...);
         }(std::make_integer_sequence<int, n>());
         const V det = behind[(1u << n) - 1];
-        if (any(splat<V>(thresholds * sizeThreshold<Element<V>>(n)) > magnitude(det))) return false;
+        if (any(splat<V>(sizeThreshold<Element<V>>(n)) > magnitude(det))) return false;
         const V r = splat<V>(1) / det;
         V b[n][n];
         [&]<int... q>(std::integer_sequence<int, q...>) VOKM_INLINE_LAMBDA {

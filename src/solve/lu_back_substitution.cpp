@@ -95,25 +95,43 @@ template <int n, class T, class S, class B, class D>
     return vokStatusOk;
 }
 
-/// The factors of a pack of objects: each lane has its own order of rows.
+/// The factors of a pack of objects: each lane has its own order of rows, at p + lane*n.
 template <class V, int n, class S> VOKM_INLINE void loadFactors(Factors<V, n>& factors, const S& src, const i32* p, i32 i)
 {
     using T = Element<V>;
     constexpr int N = lanesIn<V>;
-    for (int r = 0; r < n; ++r) {
-        if constexpr (S::dense) {
+    if constexpr (S::dense) {
+        const T* first[N];
+        firstElements<n, n>(first, src, i);
+        VOKM_UNROLL for (int r = 0; r < n; ++r)
+        {
             Fetch<T> from;
-            for (int lane = 0; lane < N; ++lane) from.at[lane] = &src.object(i + lane, Shape{n, n})(p[lane * n + r], 0);
+            for (int lane = 0; lane < N; ++lane) from.at[lane] = byBytes(first[lane], i64(p[lane * n + r]) * src.stride1);
             turnRuns<n>(factors.a[r], from, false);
-        } else {
+        }
+    } else {
+        for (int r = 0; r < n; ++r) {
             for (int c = 0; c < n; ++c) {
-                V v{};
-                for (int lane = 0; lane < N; ++lane) v[lane] = src.object(i + lane, Shape{n, n})(p[lane * n + r], c);
-                factors.a[r][c] = v;
+                const auto element = [&](int lane) VOKM_INLINE_LAMBDA { return src.object(i + lane, Shape{n, n})(p[lane * n + r], c); };
+                factors.a[r][c] = fromLanes<V>(element);
             }
         }
     }
     factors.invertDiagonal();
+}
+
+/// The right-hand sides of a pack, each in its own order.
+template <class V, int n, class B> VOKM_INLINE void loadOrdered(V (&b)[n], const B& src, const i32* p, i32 i)
+{
+    if constexpr (B::dense) {
+        const Element<V>* first[lanesIn<V>];
+        firstElements<1, n>(first, src, i);
+        for (int k = 0; k < n; ++k) b[k] = fromLanes<V>([&](int lane) VOKM_INLINE_LAMBDA { return first[lane][p[lane * n + k]]; });
+    } else {
+        for (int k = 0; k < n; ++k) {
+            b[k] = fromLanes<V>([&](int lane) VOKM_INLINE_LAMBDA { return src.object(i + lane, Shape{1, n})(0, p[lane * n + k]); });
+        }
+    }
 }
 
 /// As many matrices as vectors.
@@ -122,30 +140,31 @@ template <int n, class T, class S, class B, class D>
 {
     constexpr Shape square{n, n}, vector{1, n};
     using V = Pack<T>;
-    const auto matrices = pinned<n, n>(src);
-    const auto from = pinned<1, n>(src2);
-    const auto to = pinned<1, n>(dst);
     const auto guard = lazyGuard<T>(count, [&]() VOKM_INLINE_LAMBDA {
         return packGuard(count, Shaped<D>{dst, vector}, Shaped<S>{src, square}, Shaped<B>{src2, vector});
     });
-    walkGuarded<T>(count, guard, [&](auto as, i32 i) VOKM_INLINE_LAMBDA {
-        const i32* p = pivot + i64(i) * n;
-        if constexpr (isPack<typename decltype(as)::type>) {
-            Factors<V, n> factors;
-            V x[1][n];
-            loadFactors(factors, matrices, p, i);
-            for (int k = 0; k < n; ++k) {
-                V v{};
-                for (int lane = 0; lane < packLanes<T>; ++lane) v[lane] = from.object(i + lane, vector)(0, p[lane * n + k]);
-                x[0][k] = v;
+    const auto run = [&](auto matrices, auto from, auto to) VOKM_INLINE_LAMBDA {
+        walkGuarded<T>(count, guard, [&](auto as, i32 i) VOKM_INLINE_LAMBDA {
+            const i32* p = pivot + i64(i) * n;
+            if constexpr (isPack<typename decltype(as)::type>) {
+                Factors<V, n> factors;
+                V x[1][n];
+                loadFactors(factors, matrices, p, i);
+                loadOrdered(x[0], from, p, i);
+                factors.solve(x[0]);
+                store(x, to, i);
+            } else {
+                solveSingle<n, T>(matrices.object(i, square), from.object(i, vector), p, to.object(i, vector));
             }
-            factors.solve(x[0]);
-            store(x, to, i);
-        } else {
-            solveSingle<n, T>(matrices.object(i, square), from.object(i, vector), p, to.object(i, vector));
+        });
+        return vokStatusOk;
+    };
+    if constexpr (mayBeTight<S> && mayBeTight<D>) {
+        if (isTight<n, n>(src) && isTight<1, n>(src2) && isTight<1, n>(dst)) {
+            return run(asTight<n, n>(src), asTight<1, n>(src2), asTight<1, n>(dst));
         }
-    });
-    return vokStatusOk;
+    }
+    return run(pinned<n, n>(src), pinned<1, n>(src2), pinned<1, n>(dst));
 }
 
 /// One object of any size, in dst.

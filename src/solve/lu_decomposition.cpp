@@ -65,12 +65,15 @@ template <class V, int n, class D> VOKM_INLINE void storeRows(const V (&a)[n][n]
     std::make_signed_t<std::conditional_t<sizeof(T) == 4, i32, i64>> place[n][N];
     static_assert(sizeof place[0] == sizeof(V));
     for (int r = 0; r < n; ++r) std::memcpy(place[r], &p[r], sizeof(V));
-    for (int r = 0; r < n; ++r) {
-        if constexpr (D::dense) {
-            T* at[N];
-            for (int lane = 0; lane < N; ++lane) at[lane] = &dst.object(i + lane, Shape{n, n})(static_cast<i32>(place[r][lane]), 0);
+    if constexpr (D::dense) {
+        T *first[N], *at[N];
+        firstElements<n, n>(first, dst, i);
+        for (int r = 0; r < n; ++r) {
+            for (int lane = 0; lane < N; ++lane) at[lane] = byBytes(first[lane], i64(place[r][lane]) * dst.stride1);
             turnBack<n>(at, a[r], false);
-        } else {
+        }
+    } else {
+        for (int r = 0; r < n; ++r) {
             for (int lane = 0; lane < N; ++lane) {
                 const auto object = dst.object(i + lane, Shape{n, n});
                 for (int c = 0; c < n; ++c) object(static_cast<i32>(place[r][lane]), c) = a[r][c][lane];
@@ -85,21 +88,25 @@ template <class V, int n, class D> VOKM_INLINE void storeRows(const V (&a)[n][n]
 template <int n, class T, class S, class D> [[gnu::noinline]] vokStatus decomposeFixed(S src, Packed<i32> pivot, D dst, i32 count)
 {
     constexpr Shape shape{n, n};
-    const auto from = pinned<n, n>(src);
-    const auto to = pinned<n, n>(dst);
     const auto guard = lazyGuard<T>(count, [&]() VOKM_INLINE_LAMBDA { return packGuard(count, Shaped<D>{dst, shape}, Shaped<S>{src, shape}); });
     const bool packs = count >= packLanes<T> && elementsApart(Shaped<D>{dst, shape});
-    return walkFailing<T>(
-        count, [&](i32 i) VOKM_INLINE_LAMBDA { return packs && guard(i); },
-        [&](i32 i) VOKM_INLINE_LAMBDA {
-            Pack<T> a[n][n];
-            Index<Pack<T>> p[n];
-            load(a, from, i);
-            if (eliminate(a, p) < n) return false;
-            storeRows(a, p, pivot, to, i);
-            return true;
-        },
-        [&](i32 i) VOKM_INLINE_LAMBDA { return decomposeOne<n>(from.object(i, shape), pivot.base + i64(i) * n, to.object(i, shape)); });
+    const auto run = [&](auto from, auto to) VOKM_INLINE_LAMBDA {
+        return walkFailing<T>(
+            count, [&](i32 i) VOKM_INLINE_LAMBDA { return packs && guard(i); },
+            [&](i32 i) VOKM_INLINE_LAMBDA {
+                Pack<T> a[n][n];
+                Index<Pack<T>> p[n];
+                load(a, from, i);
+                if (eliminate(a, p) < n) return false;
+                storeRows(a, p, pivot, to, i);
+                return true;
+            },
+            [&](i32 i) VOKM_INLINE_LAMBDA { return decomposeOne<n>(from.object(i, shape), pivot.from(i).base, to.object(i, shape)); });
+    };
+    if constexpr (mayBeTight<S> && mayBeTight<D>) {
+        if (isTight<n, n>(src) && isTight<n, n>(dst)) return run(asTight<n, n>(src), asTight<n, n>(dst));
+    }
+    return run(pinned<n, n>(src), pinned<n, n>(dst));
 }
 
 /// One object of any size, in dst.
