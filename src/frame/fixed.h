@@ -9,6 +9,14 @@ template <int n> struct Fixed {
     static constexpr int value = n;
 };
 
+/// Calls body(Fixed<0>) ... body(Fixed<n - 1>): a loop whose index the compiler knows.
+template <int n, class Body> VOKM_INLINE void unrolled(Body body)
+{
+    [&]<int... k>(std::integer_sequence<int, k...>) VOKM_INLINE_LAMBDA {
+        (body(Fixed<k>{}), ...);
+    }(std::make_integer_sequence<int, n>{});
+}
+
 /// Calls fixed(Fixed<n>) if n is 3 to 6, else general().
 template <class OnFixed, class General> VOKM_INLINE auto onFixed(i32 n, OnFixed fixed, General general)
 {

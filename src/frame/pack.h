@@ -7,6 +7,7 @@
 
 #include <cmath>
 #include <cstring>
+#include <utility>
 
 #include <emmintrin.h>
 
@@ -47,9 +48,10 @@ template <class V> VOKM_INLINE void storeLanes(Element<V>* to, V v) { std::memcp
 template <class V> VOKM_INLINE V splat(Element<V> x)
 {
     if constexpr (isPack<V>) {
-        V v{};
-        for (int k = 0; k < lanesIn<V>; ++k) v[k] = x;
-        return v;
+        // As one initialiser: lane by lane, g++ makes a chain of inserts of it.
+        return [&]<int... k>(std::integer_sequence<int, k...>) VOKM_INLINE_LAMBDA {
+            return V{(static_cast<void>(k), x)...};
+        }(std::make_integer_sequence<int, lanesIn<V>>{});
     } else {
         return x;
     }
@@ -324,6 +326,43 @@ template <int R, int C, class T, Code code> VOKM_INLINE auto pinned(const TableV
     return Planes<T, code, R, C>(view);
 }
 template <int R, int C, class View> using Pinned = decltype(pinned<R, C>(std::declval<View>()));
+
+/// An array of dense objects without a gap, neither between rows nor between objects: all distances are known to the compiler.
+template <class T, Code theCode, int R, int C> struct TightView {
+    using element = T;
+    static constexpr Code code = theCode;
+    static constexpr bool array = true, dense = true;
+    static constexpr i32 E = sizeof(T), stride0 = R * C * E, stride1 = C * E;
+    T* base;
+
+    VOKM_INLINE auto object(i32 i, Shape) const
+    {
+        return stridedObject<T, theCode, true>(byBytes(base, i64(i) * stride0), stride1, E);
+    }
+};
+
+template <class View> constexpr bool canBeTight = View::array && View::dense && requires(const View& view) { view.base; };
+/// Whether each array among the operands is tight. Single operands don't count: they are read once.
+template <int R, int C, class View> VOKM_INLINE bool isTight(const View& view)
+{
+    using T = typename View::element;
+    if constexpr (!View::array) {
+        return true;
+    } else if constexpr (canBeTight<View>) {
+        constexpr i32 E = sizeof(T);
+        return view.stride0 == R * C * E && (R == 1 || view.stride1 == C * E);
+    } else {
+        return false;
+    }
+}
+template <int R, int C, class View> VOKM_INLINE auto asTight(const View& view)
+{
+    if constexpr (canBeTight<View>) {
+        return TightView<typename View::element, View::code, R, C>{view.base};
+    } else {
+        return view;
+    }
+}
 
 /// Whether the same element of neighbouring objects is neighbouring in memory: one plane per element. With contiguous rows
 /// that would be windows that slide over one run; they are loaded as any dense objects.

@@ -98,10 +98,11 @@ VOKM_INLINE vokStatus matrixProducts(A a, B b, D dst, const i32* sizes, i32 coun
         return vokStatusOk;
     };
     const auto path = [&]<int n, Order order>() VOKM_INLINE_LAMBDA -> vokStatus {
+        const Operands<n, A, B, NoAddend, D> of{a, b, NoAddend{}, dst};
         if constexpr (wayOf<T, n, D>() == Way::rows) {
-            productsOfRows<order, n, T>(a, b, dst, count);
+            productsOfRows<order>(of, count);
         } else {
-            productsOfTiles<order, n, T>(a, b, NoAddend{}, dst, count);
+            productsOfTiles<order>(of, count);
         }
         return vokStatusOk;
     };

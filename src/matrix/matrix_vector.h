@@ -2,6 +2,7 @@
 #pragma once
 
 #include "general_products.h"
+#include "vector_products.h"
 
 namespace vokm {
 
@@ -67,7 +68,15 @@ VOKM_INLINE vokStatus matrixVectors(A a, B b, C c, D dst, const i32* sizes, i32 
         if constexpr (n == 3 && A::code == Code::ta && B::array && variant == Variant::plain && sizeof(T) == 4) {
             if (goesInTwos(a, b, dst)) count += count & 1;
         }
-        productsOfTiles<order, n, T>(a, b, c, dst, count);
+        const Operands<n, A, B, C, D> of{a, b, c, dst};
+        constexpr VectorWay way = vectorWayOf<T, n, A, D>();
+        if constexpr (way == VectorWay::columns) {
+            productsOfColumns<order>(of, count);
+        } else if constexpr (way == VectorWay::dots) {
+            productsOfDots<order>(of, count);
+        } else {
+            productsOfTiles<order>(of, count);
+        }
         return vokStatusOk;
     };
     const auto general = [&]() VOKM_INLINE_LAMBDA -> vokStatus {

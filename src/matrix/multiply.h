@@ -66,65 +66,116 @@ template <Order order, class V, int n, int m> [[gnu::noinline]] void multiplyAsi
 
 /// No third operand.
 struct NoAddend {
-    static constexpr bool array = true;
+    static constexpr bool array = true, dense = true;
     using element = void;
 };
 template <class A> constexpr bool isAddend = !std::is_same_v<A, NoAddend>;
 
-template <int n, class C> VOKM_INLINE auto pinnedAddend(const C& c)
-{
-    if constexpr (isAddend<C>) {
-        return pinned<1, n>(c);
-    } else {
-        return c;
-    }
-}
+/// The operands of a product of square matrices of size n: d = a * b, or a * b + c.
+template <int n, class A, class B, class C, class D> struct Operands {
+    using T = typename D::element;
+    static constexpr int m = isMatrix(B::code) ? n : 1;
+    static constexpr Shape square{n, n}, other{m, n};
+    A a;
+    B b;
+    C c;
+    D d;
 
-/// dst = a * b, or a * b + c, for square matrices of size n: in packs where the order of the objects cannot be seen.
-template <Order order, int n, class T, class A, class B, class C, class D>
-VOKM_INLINE void productsOfTiles(const A& a, const B& b, const C& c, const D& dst, i32 count)
-{
-    constexpr int m = isMatrix(B::code) ? n : 1;
-    constexpr Shape whole{n, n}, other{m, n};
-    const auto pa = pinned<n, n>(a);
-    const auto pb = pinned<m, n>(b);
-    const auto pc = pinnedAddend<n>(c);
-    const auto pd = pinned<m, n>(dst);
-    const bool packs = D::array && count >= packLanes<T>;
-    const HeldIfSingle<T, n, n, A> heldA(a, packs);
-    const HeldIfSingle<T, m, n, B> heldB(b, packs);
-    const HeldIfSingle<T, 1, n, C> heldC(c, packs);
-    const auto body = [&](auto as, i32 i) VOKM_INLINE_LAMBDA {
-        using V = typename decltype(as)::type;
-        V x[n][n], y[m][n], d[m][n];
-        loadOrHeld(x, pa, heldA, i);
-        loadOrHeld(y, pb, heldB, i);
-        if constexpr (D::dense || n == 3) {
-            multiply<order>(x, y, d);
-        } else {
-            multiplyAside<order>(x, y, d);
-        }
-        if constexpr (isAddend<C>) {
-            V z[1][n];
-            loadOrHeld(z, pc, heldC, i);
-            for (int r = 0; r < n; ++r) d[0][r] = d[0][r] + z[0][r];
-        }
-        store(d, pd, i);
-    };
-    if constexpr (!D::array) {
-        body(As<T>{}, 0);
-    } else {
-        const auto guard = lazyGuard<T>(count, [&]() VOKM_INLINE_LAMBDA {
-            const Shaped<D> results{dst, other};
-            const Shaped<A> first{a, whole};
-            const Shaped<B> second{b, other};
+    /// The guard of a walk in packs, made if there are enough objects for one.
+    VOKM_INLINE auto guard(i32 count) const
+    {
+        return lazyGuard<T>(count, [&]() VOKM_INLINE_LAMBDA {
+            const Shaped<D> results{d, other};
             if constexpr (isAddend<C>) {
-                return packGuard(count, results, first, second, Shaped<C>{c, other});
+                return packGuard(count, results, Shaped<A>{a, square}, Shaped<B>{b, other}, Shaped<C>{c, other});
             } else {
-                return packGuard(count, results, first, second);
+                return packGuard(count, results, Shaped<A>{a, square}, Shaped<B>{b, other});
             }
         });
-        walkGuarded<T>(count, guard, body);
+    }
+    VOKM_INLINE bool tight() const
+    {
+        return isTight<n, n>(a) && isTight<m, n>(b) && isTight<m, n>(d) && (!isAddend<C> || tightAddend());
+    }
+    VOKM_INLINE auto asTight() const { return with(vokm::asTight<n, n>(a), vokm::asTight<m, n>(b), vokm::asTight<1, n>(c), vokm::asTight<m, n>(d)); }
+    VOKM_INLINE auto asPinned() const { return with(pinned<n, n>(a), pinned<m, n>(b), pinnedAddend(), pinned<m, n>(d)); }
+
+private:
+    template <class A2, class B2, class C2, class D2> VOKM_INLINE static auto with(const A2& a2, const B2& b2, const C2& c2, const D2& d2)
+    {
+        return Operands<n, A2, B2, C2, D2>{a2, b2, c2, d2};
+    }
+    VOKM_INLINE bool tightAddend() const
+    {
+        if constexpr (isAddend<C>) return isTight<1, n>(c);
+        return true;
+    }
+    VOKM_INLINE auto pinnedAddend() const
+    {
+        if constexpr (isAddend<C>) {
+            return pinned<1, n>(c);
+        } else {
+            return c;
+        }
+    }
+};
+
+/// The single operands, read before the walk.
+template <int n, class A, class B, class C, class D> struct HeldOperands {
+    using Of = Operands<n, A, B, C, D>;
+    using T = typename D::element;
+    HeldIfSingle<T, n, n, A> a;
+    HeldIfSingle<T, Of::m, n, B> b;
+    HeldIfSingle<T, 1, n, C> c;
+    VOKM_INLINE HeldOperands(const Of& of, bool packs) : a(of.a, packs), b(of.b, packs), c(of.c, packs) {}
+};
+
+/// Object i, or the pack of objects from i on.
+template <Order order, class V, int n, class A, class B, class C, class D, class Held>
+VOKM_INLINE void productOfTiles(const Operands<n, A, B, C, D>& of, const Held& held, i32 i)
+{
+    constexpr int m = of.m;
+    V x[n][n], y[m][n], d[m][n];
+    loadOrHeld(x, of.a, held.a, i);
+    loadOrHeld(y, of.b, held.b, i);
+    if constexpr (D::dense || n == 3) {
+        multiply<order>(x, y, d);
+    } else {
+        multiplyAside<order>(x, y, d);
+    }
+    if constexpr (isAddend<C>) {
+        V z[1][n];
+        loadOrHeld(z, of.c, held.c, i);
+        for (int r = 0; r < n; ++r) d[0][r] = d[0][r] + z[0][r];
+    }
+    store(d, of.d, i);
+}
+
+/// Calls body(operands) with the operands as they are or, if all arrays are without gaps, as tight ones.
+template <class Of, class Body> VOKM_INLINE void preferTight(const Of& of, Body body)
+{
+    if constexpr (canBeTight<std::decay_t<decltype(of.d)>>) {
+        if (of.tight()) return body(of.asTight());
+    }
+    body(of);
+}
+
+/// By tiles: in packs where the order of the objects cannot be seen.
+template <Order order, int n, class A, class B, class C, class D>
+VOKM_INLINE void productsOfTiles(const Operands<n, A, B, C, D>& of, i32 count)
+{
+    using T = typename D::element;
+    const HeldOperands<n, A, B, C, D> held(of, D::array && count >= packLanes<T>);
+    if constexpr (!D::array) {
+        productOfTiles<order, T>(of, held, 0);
+    } else {
+        const auto guard = of.guard(count);
+        preferTight(of, [&](const auto& these) VOKM_INLINE_LAMBDA {
+            const auto pins = these.asPinned();
+            walkGuarded<T>(count, guard, [&](auto as, i32 i) VOKM_INLINE_LAMBDA {
+                productOfTiles<order, typename decltype(as)::type>(pins, held, i);
+            });
+        });
     }
 }
 

@@ -8,7 +8,7 @@
 
 namespace vokm {
 
-/// The first operand, element by element in all lanes: spread once if it is a single one, else as the product goes.
+/// The first operand's row r, each element in all lanes: spread once if it is a single operand, else as the product goes.
 template <class T, int n, class View> struct SpreadFirst {
     Pack<T> at[n][n];
     VOKM_INLINE explicit SpreadFirst(const View& view)
@@ -18,16 +18,31 @@ template <class T, int n, class View> struct SpreadFirst {
             for (int k = 0; k < n; ++k) at[r][k] = splat<Pack<T>>(object(r, k));
         }
     }
-    VOKM_INLINE auto object(i32) const
+    template <class These> VOKM_INLINE auto object(const These&, i32) const
     {
-        return [this](int r, int k) VOKM_INLINE_LAMBDA { return at[r][k]; };
+        return [this](int r) VOKM_INLINE_LAMBDA {
+            return [this, r](auto k) VOKM_INLINE_LAMBDA { return at[r][decltype(k)::value]; };
+        };
     }
 };
-template <class T, int n, class View> struct FirstAlong {
-    const View& view;
-    VOKM_INLINE auto object(i32 i) const
+template <class T, int n> struct FirstAlong {
+    template <class View> VOKM_INLINE explicit FirstAlong(const View&) {}
+    template <class View> VOKM_INLINE auto object(const View& view, i32 i) const
     {
-        return [x = view.object(i, Shape{n, n})](int r, int k) VOKM_INLINE_LAMBDA { return splat<Pack<T>>(x(r, k)); };
+        const auto x = view.object(i, Shape{n, n});
+        using X = std::decay_t<decltype(x)>;
+        return [x](int r) VOKM_INLINE_LAMBDA {
+            if constexpr (X::unit == Unit::column && sizeof(T) == 4) {
+                RowRegisters<T, n> row;
+                row.load(&x(r, 0));
+                return [row](auto k) VOKM_INLINE_LAMBDA {
+                    constexpr int at = decltype(k)::value, N = packLanes<T>;
+                    return spreadLane<at % N>(row.at[at / N]);
+                };
+            } else {
+                return [x, r](auto k) VOKM_INLINE_LAMBDA { return splat<Pack<T>>(x(r, decltype(k)::value)); };
+            }
+        };
     }
 };
 
@@ -36,29 +51,34 @@ VOKM_INLINE void rowProduct(const X& x, const RowRegisters<T, n> (&rows)[n], con
 {
     constexpr int size = rowRegisters<T, n>;
     for (int r = 0; r < n; ++r) {
+        const auto row = x(r);
         RowRegisters<T, n> s;
-        for (int k = 0; k < n; ++k) {
-            const Pack<T> spread = x(r, k);
+        unrolled<n>([&](auto k) VOKM_INLINE_LAMBDA {
+            constexpr int at = decltype(k)::value;
+            const Pack<T> spread = row(k);
             for (int j = 0; j < size; ++j) {
-                const Pack<T> p = spread * rows[k].at[j];
-                s.at[j] = k > 0 ? s.at[j] + p : order == Order::rising ? Pack<T>{} + p : p;
+                const Pack<T> p = spread * rows[at].at[j];
+                s.at[j] = at > 0 ? s.at[j] + p : order == Order::rising ? Pack<T>{} + p : p;
             }
-        }
+        });
         s.store(&z(r, 0));
     }
 }
 
-template <Order order, int n, class T, class A, class B, class D>
-VOKM_INLINE void productsOfRows(const A& a, const B& b, const D& dst, i32 count)
+template <Order order, int n, class A, class B, class C, class D>
+VOKM_INLINE void productsOfRows(const Operands<n, A, B, C, D>& of, i32 count)
 {
-    constexpr Shape shape{n, n};
-    const std::conditional_t<A::array || !D::array, FirstAlong<T, n, A>, SpreadFirst<T, n, A>> first{a};
+    using T = typename D::element;
+    using First = std::conditional_t<A::array || !D::array, FirstAlong<T, n>, SpreadFirst<T, n, A>>;
+    const First first(of.a);
     RowRegisters<T, n> rows[n];
-    if constexpr (!B::array) loadRows(rows, b.object(0, shape));
-    for (i32 i = 0; i < count; ++i) {
-        if constexpr (B::array) loadRows(rows, b.object(i, shape));
-        rowProduct<order>(first.object(i), rows, dst.object(i, shape));
-    }
+    if constexpr (!B::array) loadRows(rows, of.b.object(0, of.square));
+    preferTight(of, [&](const auto& these) VOKM_INLINE_LAMBDA {
+        for (i32 i = 0; i < count; ++i) {
+            if constexpr (B::array) loadRows(rows, these.b.object(i, of.square));
+            rowProduct<order>(first.object(these.a, i), rows, these.d.object(i, of.square));
+        }
+    });
 }
 
 }  // namespace vokm
