@@ -299,13 +299,13 @@ template <class T, Code theCode, int R, int C> struct TightView {
 
     VOKM_INLINE auto object(i32 i, Shape) const
     {
-        return StridedObject<T, Unit::column>{byBytes(base, i64(i) * stride0), stride1, stride2};
+        return stridedObject<T, theCode, true>(byBytes(base, i64(i) * stride0), stride1, stride2);
     }
 };
 /// Whether an operand is an array of such objects, and then its view as one.
 template <int R, int C, class View> VOKM_INLINE bool isTight(const View&) { return false; }
 template <int R, int C, class T, Code code>
-    requires(isArray(code) && !isTransposed(code) && code != Code::ca)
+    requires(isArray(code) && code != Code::ca)
 VOKM_INLINE bool isTight(const StrideView<T, code, true>& view)
 {
     using Tight = TightView<T, code, R, C>;
@@ -313,7 +313,7 @@ VOKM_INLINE bool isTight(const StrideView<T, code, true>& view)
 }
 template <class View> constexpr bool mayBeTight = false;
 template <class T, Code code>
-constexpr bool mayBeTight<StrideView<T, code, true>> = isArray(code) && !isTransposed(code) && code != Code::ca;
+constexpr bool mayBeTight<StrideView<T, code, true>> = isArray(code) && code != Code::ca;
 template <int R, int C, class T, Code code> VOKM_INLINE auto asTight(const StrideView<T, code, true>& view)
 {
     return TightView<T, code, R, C>{view.base};
@@ -326,43 +326,6 @@ template <int R, int C, class T, Code code> VOKM_INLINE auto pinned(const TableV
     return Planes<T, code, R, C>(view);
 }
 template <int R, int C, class View> using Pinned = decltype(pinned<R, C>(std::declval<View>()));
-
-/// An array of dense objects without a gap, neither between rows nor between objects: all distances are known to the compiler.
-template <class T, Code theCode, int R, int C> struct TightView {
-    using element = T;
-    static constexpr Code code = theCode;
-    static constexpr bool array = true, dense = true;
-    static constexpr i32 E = sizeof(T), stride0 = R * C * E, stride1 = C * E;
-    T* base;
-
-    VOKM_INLINE auto object(i32 i, Shape) const
-    {
-        return stridedObject<T, theCode, true>(byBytes(base, i64(i) * stride0), stride1, E);
-    }
-};
-
-template <class View> constexpr bool canBeTight = View::array && View::dense && requires(const View& view) { view.base; };
-/// Whether each array among the operands is tight. Single operands don't count: they are read once.
-template <int R, int C, class View> VOKM_INLINE bool isTight(const View& view)
-{
-    using T = typename View::element;
-    if constexpr (!View::array) {
-        return true;
-    } else if constexpr (canBeTight<View>) {
-        constexpr i32 E = sizeof(T);
-        return view.stride0 == R * C * E && (R == 1 || view.stride1 == C * E);
-    } else {
-        return false;
-    }
-}
-template <int R, int C, class View> VOKM_INLINE auto asTight(const View& view)
-{
-    if constexpr (canBeTight<View>) {
-        return TightView<typename View::element, View::code, R, C>{view.base};
-    } else {
-        return view;
-    }
-}
 
 /// Whether the same element of neighbouring objects is neighbouring in memory: one plane per element. With contiguous rows
 /// that would be windows that slide over one run; they are loaded as any dense objects.

@@ -47,13 +47,6 @@ template <class T, int n> struct RowRegisters {
 template <int lane> VOKM_INLINE Pack<float> spreadLane(Pack<float> v) { return __builtin_shufflevector(v, v, lane, lane, lane, lane); }
 template <int lane> VOKM_INLINE Pack<double> spreadLane(Pack<double> v) { return __builtin_shufflevector(v, v, lane, lane); }
 
-/// The two halves of a register to two places.
-VOKM_INLINE void storeHalves(float* low, float* high, Pack<float> v)
-{
-    _mm_storel_pi(reinterpret_cast<__m64*>(low), __m128(v));
-    _mm_storeh_pi(reinterpret_cast<__m64*>(high), __m128(v));
-}
-
 /// The rows of a square matrix of size n. A transposed object is turned in registers.
 template <class T, int n, class Object> VOKM_INLINE void loadRows(RowRegisters<T, n> (&rows)[n], const Object& object)
 {

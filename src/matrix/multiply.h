@@ -71,6 +71,21 @@ struct NoAddend {
 };
 template <class A> constexpr bool isAddend = !std::is_same_v<A, NoAddend>;
 
+/// Whether an operand is a tight array, or a single operand, which is read once and doesn't count.
+template <int R, int C, class View> VOKM_INLINE bool isTightOrSingle(const View& view)
+{
+    if constexpr (View::array) return isTight<R, C>(view);
+    return true;
+}
+template <int R, int C, class View> VOKM_INLINE auto tightIfArray(const View& view)
+{
+    if constexpr (mayBeTight<View>) {
+        return asTight<R, C>(view);
+    } else {
+        return view;
+    }
+}
+
 /// The operands of a product of square matrices of size n: d = a * b, or a * b + c.
 template <int n, class A, class B, class C, class D> struct Operands {
     using T = typename D::element;
@@ -95,19 +110,21 @@ template <int n, class A, class B, class C, class D> struct Operands {
     }
     VOKM_INLINE bool tight() const
     {
-        return isTight<n, n>(a) && isTight<m, n>(b) && isTight<m, n>(d) && (!isAddend<C> || tightAddend());
+        return isTightOrSingle<n, n>(a) && isTightOrSingle<m, n>(b) && isTight<m, n>(d) && tightAddend();
     }
-    VOKM_INLINE auto asTight() const { return with(vokm::asTight<n, n>(a), vokm::asTight<m, n>(b), vokm::asTight<1, n>(c), vokm::asTight<m, n>(d)); }
+    VOKM_INLINE auto asTight() const
+    {
+        return with(tightIfArray<n, n>(a), tightIfArray<m, n>(b), tightIfArray<1, n>(c), tightIfArray<m, n>(d));
+    }
     VOKM_INLINE auto asPinned() const { return with(pinned<n, n>(a), pinned<m, n>(b), pinnedAddend(), pinned<m, n>(d)); }
 
-private:
     template <class A2, class B2, class C2, class D2> VOKM_INLINE static auto with(const A2& a2, const B2& b2, const C2& c2, const D2& d2)
     {
         return Operands<n, A2, B2, C2, D2>{a2, b2, c2, d2};
     }
     VOKM_INLINE bool tightAddend() const
     {
-        if constexpr (isAddend<C>) return isTight<1, n>(c);
+        if constexpr (isAddend<C>) return isTightOrSingle<1, n>(c);
         return true;
     }
     VOKM_INLINE auto pinnedAddend() const
@@ -154,7 +171,7 @@ VOKM_INLINE void productOfTiles(const Operands<n, A, B, C, D>& of, const Held& h
 /// Calls body(operands) with the operands as they are or, if all arrays are without gaps, as tight ones.
 template <class Of, class Body> VOKM_INLINE void preferTight(const Of& of, Body body)
 {
-    if constexpr (canBeTight<std::decay_t<decltype(of.d)>>) {
+    if constexpr (mayBeTight<std::decay_t<decltype(of.d)>>) {
         if (of.tight()) return body(of.asTight());
     }
     body(of);
