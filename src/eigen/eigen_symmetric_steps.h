@@ -18,7 +18,7 @@
 namespace vokm {
 
 template <class V> using Condition = decltype(V{} < V{});
-template <class V> constexpr Condition<V> always() { return V{} == V{}; }
+template <class V> constexpr Condition<V> everyLane() { return V{} == V{}; }
 
 VOKM_INLINE bool isNot(bool condition) { return !condition; }
 template <class M>
@@ -186,7 +186,7 @@ template <SymmetricRules rules, class Space> VOKM_INLINE void reduce(Space& s)
         V sigma = splat<V>(0);
         for (i32 i = k + 1; i < s.n; ++i) sigma = sigma + s.a(i, k) * s.a(i, k);
         const V alpha = root(sigma), x = s.a(k + 1, k);
-        Condition<V> where = always<V>();
+        Condition<V> where = everyLane<V>();
         if constexpr (rules.vectors) {
             where = isNot(atMost(magnitude(alpha - x), eps));
             if (!any(where)) continue;
@@ -250,7 +250,7 @@ VOKM_INLINE void pass(Space& space, i32 l, const B& block, Condition<V> open, V 
     }
     // Deliberate: this step can be left out for a small last r; going downwards it is forced for the first element alone.
     const auto large = above(magnitude(r), eps), notSmall = isNot(atMost(magnitude(r), eps));
-    const Condition<V> closes = going & (large | (space.ql & (l == 0 ? always<V>() : notSmall)));
+    const Condition<V> closes = going & (large | (space.ql & (l == 0 ? everyLane<V>() : notSmall)));
     setWhere(closes, space.d(l), space.d(l) - p);
     setWhere(closes, space.e(l), g);
 }
@@ -288,7 +288,7 @@ template <SymmetricRules rules, class Space, class V> VOKM_INLINE V shifted(Spac
 template <SymmetricRules rules, class Space, class V> VOKM_INLINE bool iterate(Space& s, V& product)
 {
     for (i32 l = 0; l < s.n - 1; ++l) {
-        Condition<V> open = always<V>();
+        Condition<V> open = everyLane<V>();
         for (int passes = 0;; ++passes) {
             Block<V, Space::fixed> block{};
             if constexpr (Space::fixed == 0) block.m = l;
