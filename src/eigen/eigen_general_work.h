@@ -7,33 +7,31 @@
 
 namespace vokm {
 
-template <class View, class T, class N>
-VOKM_INLINE void copyIn(const View &src, i32 k, Square<T, N> h) {
-  const auto a = src.object(k, Shape{h.n(), h.n()});
-  for (i32 r = 0; r < h.n(); ++r) {
-    for (i32 c = 0; c < h.n(); ++c)
-      h(c, r) = a(r, c);
-  }
+template <class View, class T, class N> VOKM_INLINE void copyIn(const View& src, i32 k, Square<T, N> h)
+{
+    const auto a = src.object(k, Shape{h.n(), h.n()});
+    for (i32 r = 0; r < h.n(); ++r) {
+        for (i32 c = 0; c < h.n(); ++c) h(c, r) = a(r, c);
+    }
 }
 
-template <int n, class V, class View>
-VOKM_INLINE void copyPackIn(const View &src, i32 k, V (&tile)[n][n]) {
-  if constexpr (requires { src.asDense(); }) {
-    if (src.contiguous())
-      return load(tile, src.asDense(), k);
-  }
-  load(tile, src, k);
+template <int n, class V, class View> VOKM_INLINE void copyPackIn(const View& src, i32 k, V (&tile)[n][n])
+{
+    if constexpr (requires { src.asDense(); }) {
+        if (src.contiguous()) return load(tile, src.asDense(), k);
+    }
+    load(tile, src, k);
 }
 
 /// The eigenvalues of a pack: element i of a lane at i*lanes + lane.
 template <class T, int n> struct PackValues {
-  static constexpr int lanes = packLanes<T>;
-  T re[n * lanes], im[n * lanes];
+    static constexpr int lanes = packLanes<T>;
+    T re[n * lanes], im[n * lanes];
 
-  VOKM_INLINE void copyLane(int lane, T *toRe, T *toIm) const {
-    for (int i = 0; i < n; ++i)
-      toRe[i] = re[i * lanes + lane], toIm[i] = im[i * lanes + lane];
-  }
+    VOKM_INLINE void copyLane(int lane, T* toRe, T* toIm) const
+    {
+        for (int i = 0; i < n; ++i) toRe[i] = re[i * lanes + lane], toIm[i] = im[i * lanes + lane];
+    }
 };
 
-} // namespace vokm
+}  // namespace vokm
