@@ -6,16 +6,19 @@
 #include <map>
 #include <stdexcept>
 #include <string>
+#include <tuple>
 
 #include <vokm>
 
 class Ledger {
 public:
+    // A tuple among the arguments stands for its elements: a pointer and its strides travel together.
     template <class... Parameters, class... Arguments>
-    void call(const char* name, int objects, vokStatus (*function)(Parameters...), Arguments... arguments)
+    void call(const char* name, int objects, vokStatus (*function)(Parameters...), const Arguments&... arguments)
     {
+        const auto flat = std::tuple_cat(flatten(arguments)...);
         const auto start = std::chrono::steady_clock::now();
-        const vokStatus status = function(arguments...);
+        const vokStatus status = std::apply(function, flat);
         const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
         if (status != vokStatusOk) throw std::runtime_error(std::string(name) + ": " + vokmStatusText(status));
         entries[name].objects += objects;
@@ -38,9 +41,12 @@ private:
         double objects = 0, seconds = 0;
     };
 
+    template <class T> static auto flatten(const T& argument) { return std::tuple(argument); }
+    template <class... T> static auto flatten(const std::tuple<T...>& arguments) { return arguments; }
+
     static void line(const std::string& name, const Entry& entry)
     {
-        std::printf("%-32s %12.0f objects %9.2f ms %8.0f million objects per second\n", name.c_str(), entry.objects,
+        std::printf("%-32s %12.0f objects %9.2f ms %8.1f million objects per second\n", name.c_str(), entry.objects,
             1e3 * entry.seconds, 1e-6 * entry.objects / entry.seconds);
     }
 

@@ -5,9 +5,11 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
+#include <fstream>
 #include <stdexcept>
 
 #include <png.h>
+#include <zlib.h>
 
 Colour fromHex(unsigned rgb)
 {
@@ -34,7 +36,9 @@ Image shrink(const Image& image, int factor)
     return small;
 }
 
-void writePng(const Image& image, const std::string& path)
+namespace {
+
+std::string encode(const Image& image)
 {
     std::vector<uint8_t> bytes;
     bytes.reserve(image.pixels.size() * 3);
@@ -47,8 +51,69 @@ void writePng(const Image& image, const std::string& path)
     png.width = static_cast<png_uint_32>(image.width);
     png.height = static_cast<png_uint_32>(image.height);
     png.format = PNG_FORMAT_RGB;
-    if (!png_image_write_to_file(&png, path.c_str(), 0, bytes.data(), 0, nullptr)) {
-        if (errno != EACCES && errno != ENOENT) std::remove(path.c_str());
-        throw std::runtime_error(path + ": cannot be written: " + png.message);
+    png_alloc_size_t size = PNG_IMAGE_PNG_SIZE_MAX(png);
+    std::string file(size, 0);
+    if (!png_image_write_to_memory(&png, file.data(), &size, 0, bytes.data(), 0, nullptr)) throw std::runtime_error(png.message);
+    file.resize(size);
+    return file;
+}
+
+void writeFile(const std::string& path, const std::string& bytes)
+{
+    std::ofstream file(path, std::ios::binary);
+    const bool opened = file.is_open();
+    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    file.close();
+    if (file) return;
+    const std::string reason = std::strerror(errno);
+    if (opened) std::remove(path.c_str());
+    throw std::runtime_error(path + ": cannot be written: " + reason);
+}
+
+std::string bigEndian(size_t value, int bytes)
+{
+    std::string text;
+    for (int k = bytes - 1; k >= 0; --k) text += static_cast<char>(value >> 8 * k & 255);
+    return text;
+}
+
+// Length, name, contents, check sum of name and contents.
+std::string chunk(const std::string& named)
+{
+    const auto sum = crc32(0, reinterpret_cast<const Bytef*>(named.data()), static_cast<uInt>(named.size()));
+    return bigEndian(named.size() - 4, 4) + named + bigEndian(sum, 4);
+}
+
+}  // namespace
+
+void writePng(const Image& image, const std::string& path) { writeFile(path, encode(image)); }
+
+// The chunks of the first frame's file, with a head of the animation before its pixels (IDAT); those of the other frames
+// follow under another name (fdAT). Heads and later pixels are numbered through.
+void writeAnimation(const std::vector<Image>& frames, int millisecondsEach, const std::string& path)
+{
+    std::string all;
+    int number = 0;
+    for (const Image& frame : frames) {
+        const std::string file = encode(frame);
+        const bool first = &frame == &frames.front();
+        bool headed = false;
+        if (first) all = file.substr(0, 8);
+        for (size_t at = 8, size; at < file.size(); at += size + 12) {
+            size = 0;
+            for (size_t k = 0; k < 4; ++k) size = size << 8 | static_cast<uint8_t>(file[at + k]);
+            const std::string whole = file.substr(at, size + 12), named = whole.substr(4, size + 4), name = named.substr(0, 4);
+            if (name == "IDAT" && !headed) {
+                headed = true;
+                if (first) all += chunk("acTL" + bigEndian(frames.size(), 4) + bigEndian(0, 4));
+                all += chunk("fcTL" + bigEndian(number++, 4) + bigEndian(frame.width, 4) + bigEndian(frame.height, 4) +
+                             bigEndian(0, 8) + bigEndian(millisecondsEach, 2) + bigEndian(1000, 2) + bigEndian(0, 2));
+            }
+            if (name == "IDAT" && !first)
+                all += chunk("fdAT" + bigEndian(number++, 4) + named.substr(4));
+            else if (first && name != "IEND")
+                all += whole;
+        }
     }
+    writeFile(path, all + chunk("IEND"));
 }

@@ -24,5 +24,7 @@ struct Image {
 
 Image shrink(const Image& image, int factor);  // the mean of factor x factor pixels: smooth edges
 
-// Throws std::runtime_error, and leaves no half-written file behind.
+// Both throw std::runtime_error, and leave no half-written file behind.
 void writePng(const Image& image, const std::string& path);
+// An animated PNG that runs for ever; what cannot animate it shows the first frame.
+void writeAnimation(const std::vector<Image>& frames, int millisecondsEach, const std::string& path);

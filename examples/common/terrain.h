@@ -1,24 +1,12 @@
 // A terrain as arrays of 3-element vectors, and what the library works out for all of them at once.
 #pragma once
 
+#include "arrays.h"
 #include "asc_grid.h"
 #include "ledger.h"
 #include "png_image.h"
 
 #include <vector>
-
-// `count` vectors of 3 elements, a plane of memory for each element: neighbours in a plane belong to neighbouring objects,
-// the arrangement that the library is fastest with.
-struct Vectors {
-    explicit Vectors(int n) : count(n), elements(3 * size_t(n)) {}
-    float* plane(int element) { return elements.data() + size_t(element) * count; }
-    const float* plane(int element) const { return elements.data() + size_t(element) * count; }
-    int stride0() const { return sizeof(float); }
-    int stride2() const { return static_cast<int>(sizeof(float)) * count; }
-
-    int count;
-    std::vector<float> elements;
-};
 
 // The surface through the heights, `detail` points for each cell of the grid. x runs east from -1 to 1, y north, z up.
 // A border of one point lies all around, so that every point inside has four neighbours; it is not meant to be drawn.

@@ -1,51 +1,51 @@
 #include "view.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
-View::View(int width, int height, double compass, double above, double radius)
-    : image(width, height), nearest(size_t(width) * height)
+Cameras::Cameras(
+    int width, int height, float radius, const std::vector<float>& compass, const std::vector<float>& above, Ledger& ledger)
+    : turn(static_cast<int>(compass.size()), 4, 4), screen(turn.count, 4, 4)
 {
-    constexpr double degree = 3.14159265358979 / 180;
-    const double a = degree * compass, b = degree * above, distance = 3.5 * radius, focus = 1.5 * width;
-    const double forward[3] = {-std::sin(a) * std::cos(b), -std::cos(a) * std::cos(b), -std::sin(b)};
-    const double right[3] = {-std::cos(a), std::sin(a), 0};
-    const double up[3] = {right[1] * forward[2], -right[0] * forward[2], right[0] * forward[1] - right[1] * forward[0]};
-    // Rows that give w * column, w * row, 1 and w, the distance along the view: after the division by w a point's third
-    // coordinate is 1/w, which is linear on the screen and grows towards us.
-    for (int k = 0; k < 3; ++k) {
-        matrix[0][k] = static_cast<float>(focus * right[k] + 0.5 * width * forward[k]);
-        matrix[1][k] = static_cast<float>(-focus * up[k] + 0.46 * height * forward[k]);
-        matrix[2][k] = 0;
-        matrix[3][k] = static_cast<float>(forward[k]);
+    Matrices around(turn.count, 4, 4), tilt(turn.count, 4, 4), lens(1, 4, 4);
+    const auto put = [](Matrices& to, int i, const float(&m)[4][4]) {
+        for (int row = 0; row < 4; ++row)
+            for (int column = 0; column < 4; ++column) to.plane(row, column)[i] = m[row][column];
+    };
+    constexpr float degree = 3.14159265f / 180;
+    for (int i = 0; i < turn.count; ++i) {
+        const float sa = std::sin(degree * compass[i]), ca = std::cos(degree * compass[i]);
+        const float sb = std::sin(degree * above[i]), cb = std::cos(degree * above[i]);
+        put(around, i, {{-ca, sa, 0, 0}, {-sa, -ca, 0, 0}, {0, 0, 1, 0}, {0, 0, 0, 1}});
+        put(tilt, i, {{1, 0, 0, 0}, {0, cb, -sb, 0}, {0, sb, cb, 0}, {0, 0, 0, 1}});
     }
-    matrix[0][3] = static_cast<float>(0.5 * width * distance);
-    matrix[1][3] = static_cast<float>(0.46 * height * distance);
-    matrix[2][3] = 1;
-    matrix[3][3] = static_cast<float>(distance);
+    const float distance = 3.5f * radius, w = static_cast<float>(width), h = static_cast<float>(height), focus = 1.5f * w;
+    put(lens, 0,
+        {{focus, w / 2, 0, distance * w / 2}, {0, 0.46f * h, -focus, distance * 0.46f * h}, {0, 0, 0, 1}, {0, 1, 0, distance}});
+    LEDGER_CALL(ledger, turn.count, vokmMul_mama_32f, tilt.sized(), around.sized(), turn.all());
+    LEDGER_CALL(ledger, turn.count, vokmMul_mma_32f, lens.sizedOne(0), turn.sized(), screen.all());
 }
 
-void View::draw(const Surface& surface, Ledger& ledger)
+void View::draw(const Surface& surface, const Cameras& cameras, int camera, Ledger& ledger)
 {
     const Vectors& from = surface.points;
+    const std::vector<Colour>& colours = surface.colours;
     Vectors screen(from.count);
-    LEDGER_CALL(ledger, from.count, vokmAffineTransform3DH_mva_32f, matrix[0], int(sizeof matrix[0]), int(sizeof(float)),
-        from.plane(0), from.stride0(), from.stride2(), screen.plane(0), screen.stride0(), screen.stride2());
+    LEDGER_CALL(ledger, from.count, vokmAffineTransform3DH_mva_32f, cameras.screen.one(camera), from.all(), screen.all());
 
     const float *x = screen.plane(0), *y = screen.plane(1), *z = screen.plane(2);
     for (int row = surface.margin; row + 1 < surface.rows - surface.margin; ++row)
         for (int column = surface.margin; column + 1 < surface.columns - surface.margin; ++column) {
             const int a = row * surface.columns + column, b = a + 1, c = a + surface.columns, d = c + 1;
             for (const auto& [i, j, k] : {std::array{a, b, c}, std::array{b, d, c}})
-                if (z[i] > 0 && z[j] > 0 && z[k] > 0)  // in front of us
-                    triangle({x[i], x[j], x[k]}, {y[i], y[j], y[k]}, {z[i], z[j], z[k]},
-                        {&surface.colours[i], &surface.colours[j], &surface.colours[k]});
+                triangle({x[i], x[j], x[k]}, {y[i], y[j], y[k]}, {z[i], z[j], z[k]}, {colours[i], colours[j], colours[k]});
         }
 }
 
-void View::triangle(const float (&x)[3], const float (&y)[3], const float (&z)[3], const Colour* const (&corners)[3])
+void View::triangle(const std::array<float, 3>& x, const std::array<float, 3>& y, const std::array<float, 3>& z,
+    const std::array<Colour, 3>& corners)
 {
+    if (!(z[0] > 0 && z[1] > 0 && z[2] > 0)) return;  // not in front of us
     const auto clampTo = [](float value, int end) { return static_cast<int>(std::clamp(value, 0.0f, static_cast<float>(end))); };
     const int left = clampTo(std::min({x[0], x[1], x[2]}), image.width),
               right = clampTo(std::max({x[0], x[1], x[2]}) + 1, image.width);
@@ -64,7 +64,7 @@ void View::triangle(const float (&x)[3], const float (&y)[3], const float (&z)[3
             float& seen = nearest[size_t(row) * image.width + column];
             if (near <= seen) continue;
             seen = near;
-            image.at(column, row) = u * *corners[0] + v * *corners[1] + w * *corners[2];
+            image.at(column, row) = u * corners[0] + v * corners[1] + w * corners[2];
         }
 }
 
@@ -73,7 +73,7 @@ namespace {
 constexpr float tableZ = -0.15f;
 
 // The four sides of the block under the terrain: one strip all around, layers of earth from the surface to the table.
-void drawSides(View& view, const Terrain& terrain, Ledger& ledger)
+void drawSides(View& view, const Terrain& terrain, const Cameras& cameras, int camera, Ledger& ledger)
 {
     constexpr int layers = 40;
     std::vector<std::array<int, 2>> edge;  // a point of the terrain's edge, and the side that it is on
@@ -101,11 +101,11 @@ void drawSides(View& view, const Terrain& terrain, Ledger& ledger)
             const Colour colour = mix(earth[bed & 3], earth[(bed + 1) & 3], std::pow(depth - static_cast<float>(bed), 6.0f));
             colours[i] = facing[side] * (1 - 0.35f * t * t) * colour;
         }
-    view.draw({columns, layers + 1, 0, points, colours}, ledger);
+    view.draw({columns, layers + 1, 0, points, colours}, cameras, camera, ledger);
 }
 
 // A pale table with the soft shadow of the block on it, fading into the distance.
-void drawTable(View& view, const Terrain& terrain, Ledger& ledger)
+void drawTable(View& view, const Terrain& terrain, const Cameras& cameras, int camera, Ledger& ledger)
 {
     constexpr int side = 400;
     constexpr float half = 9;
@@ -130,20 +130,22 @@ void drawTable(View& view, const Terrain& terrain, Ledger& ledger)
             const float far = std::min(1.0f, (x * x + y * y) / 30);
             colours[i] = (1 - dark) * mix(table, distant, far);
         }
-    view.draw({side, side, 0, points, colours}, ledger);
+    view.draw({side, side, 0, points, colours}, cameras, camera, ledger);
 }
 
 }  // namespace
 
-Image modelView(const Terrain& terrain, const std::vector<Colour>& colours, int width, int height, double compass, double above,
-    Ledger& ledger)
+float modelRadius(const Terrain& terrain)
 {
-    constexpr int fine = 2;
-    const float x = terrain.points.plane(0)[terrain.at(1, 1)], y = terrain.points.plane(1)[terrain.at(1, 1)];
-    View view(fine * width, fine * height, compass, above, std::hypot(x, y));
+    const int corner = terrain.at(1, 1);
+    return std::hypot(terrain.points.plane(0)[corner], terrain.points.plane(1)[corner]);
+}
+
+void drawModel(
+    View& view, const Terrain& terrain, const std::vector<Colour>& colours, const Cameras& cameras, int camera, Ledger& ledger)
+{
     std::fill(view.image.pixels.begin(), view.image.pixels.end(), fromHex(0xf6f5f2));
-    drawTable(view, terrain, ledger);
-    drawSides(view, terrain, ledger);
-    view.draw({terrain.columns, terrain.rows, 1, terrain.points, colours}, ledger);
-    return shrink(view.image, fine);
+    drawTable(view, terrain, cameras, camera, ledger);
+    drawSides(view, terrain, cameras, camera, ledger);
+    view.draw({terrain.columns, terrain.rows, 1, terrain.points, colours}, cameras, camera, ledger);
 }

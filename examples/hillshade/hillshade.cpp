@@ -62,13 +62,16 @@ void drawPictures(const std::string& input, const std::filesystem::path& directo
             map.at(column - 1, row - 1) = lined;
             colours[i] = mix(colours[i], lined, 0.6f);  // fainter in the view
         }
-    const Image view = modelView(terrain, colours, 1600, 1000, 202, 31, ledger);
+    constexpr int width = 1600, height = 1000, fine = 2;
+    View view(fine * width, fine * height);
+    const Cameras camera(fine * width, fine * height, modelRadius(terrain), {202}, {31}, ledger);
+    drawModel(view, terrain, colours, camera, 0, ledger);
 
     ledger.print();
     std::filesystem::create_directories(directory);
     const std::string stem = (directory / std::filesystem::path(input).stem()).string();
     writePng(map, stem + "-map.png");
-    writePng(view, stem + "-view.png");
+    writePng(shrink(view.image, fine), stem + "-view.png");
     std::printf("pictures: %s-map.png (contour lines every %g) and %s-view.png\n", stem.c_str(), interval, stem.c_str());
 }
 

@@ -1,47 +1,9 @@
 #!/usr/bin/env bash
 # hillshade_test.sh PROGRAM GRID: the program on the carried grid, on other good files and on bad ones.
-set -u
-program=$1 grid=$2
-scratch=$(mktemp -d)
-trap 'rm -rf "$scratch"' EXIT
-failures=0
+suffix=.asc pictures=(map view)
+source "$(dirname "$0")/../common/program_test.sh"
 
-fail() {
-    echo "FAILED: $*"
-    failures=$((failures + 1))
-}
-
-# The width and height of a PNG, or nothing if it is none.
-png_size() {
-    [ "$(od -An -tx1 -N8 "$1" 2>/dev/null | tr -d ' ')" = 89504e470d0a1a0a ] || return
-    od -An -tu1 -j16 -N8 "$1" | awk '{print (($1*256+$2)*256+$3)*256+$4, (($5*256+$6)*256+$7)*256+$8}'
-}
-
-# good NAME WORDS: a file (standard input) that has to give two pictures, and an output with these words.
-good() {
-    cat >"$scratch/good.asc"
-    if output=$("$program" "$scratch/good.asc" "$scratch/pictures" 2>&1); then
-        [[ $output == *"$2"* ]] || fail "$1: no '$2' in: $output"
-        [ -n "$(png_size "$scratch/pictures/good-map.png")" ] && [ -n "$(png_size "$scratch/pictures/good-view.png")" ] ||
-            fail "$1: no pictures"
-    else
-        fail "$1: $output"
-    fi
-    rm -rf "$scratch/pictures"
-}
-
-# bad LINE WORDS: a file (standard input, with \n for the ends of lines) that has to be refused with these words and the line.
-bad() {
-    printf '%b' "$(cat)" >"$scratch/bad.asc"
-    output=$("$program" "$scratch/bad.asc" "$scratch/pictures" 2>&1)
-    status=$?
-    [ $status = 1 ] || fail "'$2': exit status $status"
-    [[ $output == *"bad.asc:$1: "*"$2"* ]] || fail "no 'bad.asc:$1: ...$2' in: $output"
-    [ "$(echo "$output" | wc -l)" = 1 ] || fail "'$2': more than one line: $output"
-    [ ! -e "$scratch/pictures" ] || fail "'$2': a picture was written"
-}
-
-good "the carried grid" "87 x 61 heights from 94 to 195" <"$grid"
+good "the carried grid" "87 x 61 heights from 94 to 195" <"$carried"
 good "keys in any case and order, other ends of lines, rows broken anywhere" "3 x 2 heights from -1.5 to 600" < <(
     printf 'NROWS 2\r\nnCols 3\r\nXLLCENTER 0\r\nyllcorner -5e3\r\nCELLSIZE .5\r\n1 2\r\n\r\n3 +4 6e2\r\n-1.5')
 good "a level plain" "from 5 to 5" < <(printf 'ncols 2\nnrows 2\ncellsize 1e-9\nnodata_value -9999\n5 5\n5 5\n')
@@ -68,10 +30,4 @@ bad 6 'out of range (row 2, column 3)' <<<"${h}1 2 3\n4 5 1e999\n"
 bad 6 'row 2, column 1 is a no-data cell' <<<"${h}1 2 3\n-9999 5 6\n"
 bad 5 'is not a number' <<<"${h}$(printf '%0200d' 7)\n"
 
-for none in "$scratch/absent.asc" "$scratch" /dev/null; do
-    output=$("$program" "$none" "$scratch/pictures" 2>&1)
-    [ $? = 1 ] && [[ $output == "hillshade: $none: "* ]] || fail "$none: $output"
-done
-output=$("$program" "$grid" /dev/full/pictures 2>&1) && fail "wrote pictures into a device"
-
-[ $failures = 0 ]
+finish
