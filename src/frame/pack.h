@@ -89,17 +89,9 @@ inline Pack<double> larger(Pack<double> x, Pack<double> y) { return Pack<double>
 inline float reciprocalEstimate(float x) { return _mm_cvtss_f32(_mm_rcp_ss(_mm_set_ss(x))); }
 inline Pack<float> reciprocalEstimate(Pack<float> x) { return Pack<float>(_mm_rcp_ps(__m128(x))); }
 
-/// The root of a 32-bit sum taken in 64 bits and rounded back.
-inline float rootInDouble(float x) { return static_cast<float>(std::sqrt(static_cast<double>(x))); }
-inline double rootInDouble(double x) { return std::sqrt(x); }
-inline Pack<double> rootInDouble(Pack<double> x) { return root(x); }
-inline Pack<float> rootInDouble(Pack<float> x)
-{
-    const __m128 v = __m128(x);
-    const __m128 low = _mm_cvtpd_ps(_mm_sqrt_pd(_mm_cvtps_pd(v)));
-    const __m128 high = _mm_cvtpd_ps(_mm_sqrt_pd(_mm_cvtps_pd(_mm_movehl_ps(v, v))));
-    return Pack<float>(_mm_movelh_ps(low, high));
-}
+/// The root of a 32-bit sum taken in 64 bits and rounded back: with more than twice the bits in between, rounding twice gives
+/// what rounding once gives, so that this is the root in 32 bits.
+template <class V> VOKM_INLINE V rootInDouble(V x) { return root(x); }
 
 /// 1 / sqrt(x), both taken in 64 bits and rounded once.
 inline float inverseRootInDouble(float x) { return static_cast<float>(1 / std::sqrt(static_cast<double>(x))); }
@@ -329,14 +321,40 @@ template <int R, int C, class View> using Pinned = decltype(pinned<R, C>(std::de
 
 /// Whether the same element of neighbouring objects is neighbouring in memory: one plane per element. With contiguous rows
 /// that would be windows that slide over one run; they are loaded as any dense objects.
+template <class View> constexpr bool mayBePlanar = View::array && !View::dense && requires(View view) { view.stride0; };
 template <class View> VOKM_INLINE bool planar(const View& view)
 {
-    if constexpr (View::array && !View::dense && requires { view.stride0; }) {
+    if constexpr (mayBePlanar<View>) {
         return view.stride0 == static_cast<i32>(sizeof(typename View::element));
     } else {
         return false;
     }
 }
+
+/// The K elements of object i of planes, by value for a loop over the objects; of a single operand, its one object.
+template <int K, class View> struct PlaneLanes {
+    using T = std::remove_const_t<typename View::element>;
+    std::conditional_t<View::array, typename View::element*, T> of[K];
+    VOKM_INLINE explicit PlaneLanes(const View& view)
+    {
+        for (int k = 0; k < K; ++k) {
+            auto& element = view.object(0, Shape{1, K})(0, k);
+            if constexpr (View::array) {
+                of[k] = &element;
+            } else {
+                of[k] = element;
+            }
+        }
+    }
+    VOKM_INLINE auto& operator()(int k, i64 i) const
+    {
+        if constexpr (View::array) {
+            return of[k][i];
+        } else {
+            return of[k];
+        }
+    }
+};
 
 /// Whether the objects of K elements follow one another without a gap.
 template <int K, class View> VOKM_INLINE bool packedObjects(const View& view)

@@ -1,6 +1,7 @@
 // vokmCrossProduct: dst = src1 x src2, two products and a difference per element, in the element type.
 #include "cross_product.h"
 
+#include "../frame/along.h"
 #include "../frame/fixed.h"
 #include "../frame/overlap.h"
 
@@ -16,6 +17,19 @@ template <class V> VOKM_INLINE void cross(const V (&a)[1][3], const V (&b)[1][3]
 template <class T, class A, class B, class D> VOKM_INLINE vokStatus crossProducts(A src1, B src2, D dst, i32 count)
 {
     constexpr Shape three{1, 3};
+    if constexpr (mayBePlanar<D>) {
+        if (count >= 32 && planar(dst) && (!A::array || planar(src1)) && (!B::array || planar(src2)) &&
+            planesApart(Shaped<D>{dst, three}, count) && wholesApart(count, Shaped<D>{dst, three}, Shaped<A>{src1, three}) &&
+            wholesApart(count, Shaped<D>{dst, three}, Shaped<B>{src2, three})) {
+            along(count, [x = PlaneLanes<3, A>(src1), y = PlaneLanes<3, B>(src2), to = PlaneLanes<3, D>(dst)](i64 i) VOKM_INLINE_LAMBDA {
+                const T a[1][3] = {{x(0, i), x(1, i), x(2, i)}}, b[1][3] = {{y(0, i), y(1, i), y(2, i)}};
+                T d[1][3];
+                cross(a, b, d);
+                for (int k = 0; k < 3; ++k) to(k, i) = d[0][k];
+            });
+            return vokStatusOk;
+        }
+    }
     const bool packs = count >= packLanes<T>;
     const HeldIfSingle<T, 1, 3, A> held1(src1, packs);
     const HeldIfSingle<T, 1, 3, B> held2(src2, packs);

@@ -17,7 +17,7 @@ constexpr SumRow dotVava32Plain{alike(Order::chain), dotDense64, dotStrided, ali
 template <Variant variant, class A, class B, class T>
 VOKM_INLINE vokStatus dotProduct(const A& src1, const B& src2, const Packed<T>& dst, const Sizes<1>& sizes, Count)
 {
-    const auto same = [](auto s) { return s; };
+    const auto same = [](auto s) VOKM_INLINE_LAMBDA { return s; };
     return reduce<dotVv, variant, T>(Products<A, B>{src1, src2}, dst, sizes[0], 1, 0, same, same,
                                      [](const auto& terms, i32 i, i32 n) {
                                          return variant == Variant::plain ? longSum<T>(terms, n) : risingSum<T>(terms, i, n);
@@ -35,7 +35,7 @@ template <class A, class B, class T> i32 alignedBlock(const A& src1, const B& sr
 template <Variant variant, class A, class B, class T>
 VOKM_INLINE vokStatus dotProducts(const A& src1, const B& src2, const Packed<T>& dst, const Sizes<1>& sizes, Count count)
 {
-    const auto same = [](auto s) { return s; };
+    const auto same = [](auto s) VOKM_INLINE_LAMBDA { return s; };
     const auto run = [&]<const SumRow& row>(i32 block) VOKM_INLINE_LAMBDA {
         return reduce<row, variant, T>(Products<A, B>{src1, src2}, dst, sizes[0], count.n, block, same, same,
                                        [](const auto& terms, i32 i, i32 n) { return risingSum<T>(terms, i, n); });

@@ -17,7 +17,7 @@ template <const SumRow& row, Variant variant, class A, class T>
 VOKM_INLINE vokStatus normsOf(const A& src, const Packed<T>& dst, i32 n, i32 count, i32 block)
 {
     constexpr bool dense = variant == Variant::plain || variant == Variant::L;
-    const auto finish = [](auto s) {
+    const auto finish = [](auto s) VOKM_INLINE_LAMBDA {
         if constexpr (dense) {
             return root(s);
         } else {

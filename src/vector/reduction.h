@@ -58,6 +58,7 @@ template <Order order, int n> constexpr bool folds =
 /// The terms of a dot product.
 template <class A, class B> struct Products {
     static constexpr bool folds = A::array && B::array && A::dense && B::dense;
+    static constexpr bool mayBePlanes = mayBePlanar<A> && (!B::array || mayBePlanar<B>);
     A a;
     B b;
     /// Sums of leading objects in wide registers, where no result lies on a source; returns how many.
@@ -71,6 +72,16 @@ template <class A, class B> struct Products {
         return 0;
     }
     Products from(i32 start) const { return {a.from(start), b.from(start)}; }
+    /// Whether all arrays have a plane for each element, apart from the results.
+    template <class D> VOKM_INLINE bool planes(const Shaped<D>& dst, i32 count, i32 n) const
+    {
+        return planar(a) && (!B::array || planar(b)) && wholesApart(count, dst, Shaped<A>{a, {1, n}}) &&
+               wholesApart(count, dst, Shaped<B>{b, {1, n}});
+    }
+    template <int n> VOKM_INLINE auto alongPlanes() const
+    {
+        return [x = PlaneLanes<n, A>(a), y = PlaneLanes<n, B>(b)](int k, i64 i) VOKM_INLINE_LAMBDA { return x(k, i) * y(k, i); };
+    }
     template <class V, int n, class H> VOKM_INLINE void fixedTerms(V (&p)[n], const H& held, i32 i) const
     {
         if constexpr (B::array) {
@@ -97,7 +108,7 @@ template <class A, class B> struct Products {
 
 /// The terms of a norm.
 template <class A> struct Squares {
-    static constexpr bool folds = A::array && A::dense;
+    static constexpr bool folds = A::array && A::dense, mayBePlanes = mayBePlanar<A>;
     A a;
     template <class V, int n, class H> VOKM_INLINE void fixedTerms(V (&p)[n], const H&, i32 i) const { loadProducts(p, a, a, i); }
     auto term(i32 i, i32 n) const
@@ -108,6 +119,14 @@ template <class A> struct Squares {
     template <class D> VOKM_INLINE auto guard(i32 count, const D& dst, i32 n) const
     {
         return packGuard(count, Shaped<D>{dst, {1, 1}}, Shaped<A>{a, {1, n}});
+    }
+    template <class D> VOKM_INLINE bool planes(const Shaped<D>& dst, i32 count, i32 n) const
+    {
+        return planar(a) && wholesApart(count, dst, Shaped<A>{a, {1, n}});
+    }
+    template <int n> VOKM_INLINE auto alongPlanes() const
+    {
+        return [x = PlaneLanes<n, A>(a)](int k, i64 i) VOKM_INLINE_LAMBDA { return x(k, i) * x(k, i); };
     }
     template <Order order, int n> VOKM_INLINE auto folded(i32 i) const { return foldedSum<order, n>(a, a, i); }
     template <int n> VOKM_INLINE auto pin() const { return Squares<Pinned<1, n, A>>{pinned<1, n>(a)}; }
@@ -173,6 +192,16 @@ VOKM_INLINE vokStatus reduce(Terms terms, Packed<T> dst, i32 n, i32 count, i32 b
             }
         }
         const StrideView<T, Code::va> results(dst.base, sizeof(T), 0, sizeof(T));
+        if constexpr (Terms::mayBePlanes) {
+            if (count >= 32 && terms.planes(Shaped<StrideView<T, Code::va>>{results, {1, 1}}, count, k)) {
+                along(count, [d = dst.base, term = terms.template alongPlanes<k>(), finish](i64 i) VOKM_INLINE_LAMBDA {
+                    T p[k];
+                    for (int j = 0; j < k; ++j) p[j] = term(j, i);
+                    d[i] = finish(sum<order>(p));
+                });
+                return vokStatusOk;
+            }
+        }
         const auto guard = lazyGuard<T>(count, [&]() VOKM_INLINE_LAMBDA { return terms.guard(count, results, k); });
         const auto held = terms.template held<T, k>(count >= packLanes<T>);
         const auto pins = terms.template pin<k>();
