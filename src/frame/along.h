@@ -7,15 +7,27 @@
 // The caller has made sure that no element is read behind a store to it by another step of the loop.
 #ifdef __clang__
 #define VOKM_INDEPENDENT _Pragma("clang loop vectorize(assume_safety)")
+#define VOKM_OUT_OF_LINE gnu::noinline
 #else
 #define VOKM_INDEPENDENT _Pragma("GCC ivdep")
+#define VOKM_OUT_OF_LINE gnu::noipa
 #endif
 
 namespace vokm {
 
-inline const bool wideRegisters = __builtin_cpu_supports("avx2") != 0;
+inline const bool wideRegisters = __builtin_cpu_supports("avx2") != 0, widestRegisters = __builtin_cpu_supports("avx512f") != 0;
 
-template <class Step> [[gnu::target("avx2"), gnu::noipa]] void alongWide(i64 n, Step step)
+#ifdef __clang__
+#define VOKM_WIDEST "avx512f"
+#else
+#define VOKM_WIDEST "avx512f,prefer-vector-width=512"
+#endif
+
+template <class Step> [[gnu::target("avx2"), VOKM_OUT_OF_LINE]] void alongWide(i64 n, Step step)
+{
+    VOKM_INDEPENDENT for (i64 j = 0; j < n; ++j) step(j);
+}
+template <class Step> [[gnu::target(VOKM_WIDEST), VOKM_OUT_OF_LINE]] void alongWidest(i64 n, Step step)
 {
     VOKM_INDEPENDENT for (i64 j = 0; j < n; ++j) step(j);
 }
@@ -24,6 +36,7 @@ template <class Step> [[gnu::target("avx2"), gnu::noipa]] void alongWide(i64 n, 
 /// independent of one another.
 template <class Step> VOKM_INLINE void along(i64 n, Step step)
 {
+    if (n >= 64 && widestRegisters) return alongWidest(n, step);
     if (n >= 32 && wideRegisters) return alongWide(n, step);
     VOKM_INDEPENDENT for (i64 j = 0; j < n; ++j) step(j);
 }

@@ -21,12 +21,13 @@ template <class T, class A, class B, class D> VOKM_INLINE vokStatus crossProduct
         if (count >= 32 && planar(dst) && (!A::array || planar(src1)) && (!B::array || planar(src2)) &&
             planesApart(Shaped<D>{dst, three}, count) && wholesApart(count, Shaped<D>{dst, three}, Shaped<A>{src1, three}) &&
             wholesApart(count, Shaped<D>{dst, three}, Shaped<B>{src2, three})) {
-            along(count, [x = PlaneLanes<3, A>(src1), y = PlaneLanes<3, B>(src2), to = PlaneLanes<3, D>(dst)](i64 i) VOKM_INLINE_LAMBDA {
-                const T a[1][3] = {{x(0, i), x(1, i), x(2, i)}}, b[1][3] = {{y(0, i), y(1, i), y(2, i)}};
-                T d[1][3];
-                cross(a, b, d);
-                for (int k = 0; k < 3; ++k) to(k, i) = d[0][k];
-            });
+            along(count,
+                [x = PlaneLanes<3, A>(src1), y = PlaneLanes<3, B>(src2), to = PlaneLanes<3, D>(dst)](i64 i) VOKM_INLINE_LAMBDA {
+                    const T a[1][3] = {{x(0, i), x(1, i), x(2, i)}}, b[1][3] = {{y(0, i), y(1, i), y(2, i)}};
+                    T d[1][3];
+                    cross(a, b, d);
+                    for (int k = 0; k < 3; ++k) to(k, i) = d[0][k];
+                });
             return vokStatusOk;
         }
     }

@@ -131,8 +131,8 @@ inline void patternRun(Op op, A a, B b, D dst, i32 count)
 {
     using OfA = std::conditional_t<isSingleOperand<A>, Pattern<T, R, C, A>, RunAlong>;
     using OfB = std::conditional_t<isSingleOperand<B>, Pattern<T, R, C, B>, RunAlong>;
-    // At least four registers a turn, lest the loop itself takes longer than its stores.
-    constexpr int N = packLanes<T>, period = std::lcm(R * C, N), step = period >= 4 * N ? period : period * (4 * N / period);
+    // Six registers a turn or nearly so, lest the loop itself takes longer than its stores.
+    constexpr int N = packLanes<T>, period = std::lcm(R * C, N), step = period >= 4 * N ? period : period * (6 * N / period);
     const OfA ofA(a);
     const OfB ofB(b);
     const i64 elements = i64(count) * (R * C);

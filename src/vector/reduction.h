@@ -52,8 +52,9 @@ template <Order order, int n, class A, class B> VOKM_INLINE Pack<double> foldedS
     const Pack<double> last{from.one(0, 4), from.one(1, 4)};
     return order == Order::evenOddTail ? (even + odd) + last : (even + last) + odd;
 }
-template <Order order, int n> constexpr bool folds =
-    n > 3 && (order == Order::evenOdd || (order == Order::evenOddTail && n == 5) || (order == Order::evenOddInner && n == 6));
+template <Order order, int n> constexpr bool folds = n > 3 &&
+                                                     (order == Order::evenOdd || (order == Order::evenOddTail && n == 5) ||
+                                                         (order == Order::evenOddInner && n == 6));
 
 /// The terms of a dot product.
 template <class A, class B> struct Products {
@@ -64,7 +65,10 @@ template <class A, class B> struct Products {
     /// Sums of leading objects in wide registers, where no result lies on a source; returns how many.
     template <Order order, int n> VOKM_INLINE i32 leading(double* dst, i32 count) const
     {
-        if constexpr (folds && sumsWide<order, n> && requires { a.stride0; b.stride0; }) {
+        if constexpr (folds && sumsWide<order, n> && requires {
+                          a.stride0;
+                          b.stride0;
+                      }) {
             if (wideRegisters && count >= 8 && apartFrom(a, n, count, dst) && apartFrom(b, n, count, dst)) {
                 return wideSums<order, n>(a, b, dst, count);
             }
@@ -102,7 +106,10 @@ template <class A, class B> struct Products {
         return packGuard(count, Shaped<D>{dst, {1, 1}}, Shaped<A>{a, {1, n}}, Shaped<B>{b, {1, n}});
     }
     template <Order order, int n> VOKM_INLINE auto folded(i32 i) const { return foldedSum<order, n>(a, b, i); }
-    template <int n> VOKM_INLINE auto pin() const { return Products<Pinned<1, n, A>, Pinned<1, n, B>>{pinned<1, n>(a), pinned<1, n>(b)}; }
+    template <int n> VOKM_INLINE auto pin() const
+    {
+        return Products<Pinned<1, n, A>, Pinned<1, n, B>>{pinned<1, n>(a), pinned<1, n>(b)};
+    }
     const auto& lead() const { return b; }  // the operand whose alignment decides the head of a long sum
 };
 
@@ -178,8 +185,8 @@ template <class T, class Terms> inline T longSum(const Terms& terms, i32 n)
 /// The reductions of `count` vectors of length n. `finish` turns the sum at a fixed length into the result, `finishOther` the
 /// sum at any other; `block` is the number of leading objects that sum in the row's block order at its block length.
 template <const SumRow& row, Variant variant, class T, class Terms, class Finish, class FinishOther, class Other>
-VOKM_INLINE vokStatus reduce(Terms terms, Packed<T> dst, i32 n, i32 count, i32 block, Finish finish,
-                        FinishOther finishOther, Other other)
+VOKM_INLINE vokStatus reduce(
+    Terms terms, Packed<T> dst, i32 n, i32 count, i32 block, Finish finish, FinishOther finishOther, Other other)
 {
     const auto fixed = [&](auto length) VOKM_INLINE_LAMBDA -> vokStatus {
         constexpr int k = decltype(length)::value;
