@@ -105,7 +105,7 @@ template <class A, class B> struct Products {
     {
         return packGuard(count, Shaped<D>{dst, {1, 1}}, Shaped<A>{a, {1, n}}, Shaped<B>{b, {1, n}});
     }
-    template <Order order, int n> VOKM_INLINE auto folded(i32 i) const { return foldedSum<order, n>(a, b, i); }
+    template <Order order, int n> VOKM_INLINE auto folded(As<Pack<double>>, i32 i) const { return foldedSum<order, n>(a, b, i); }
     template <int n> VOKM_INLINE auto pin() const
     {
         return Products<Pinned<1, n, A>, Pinned<1, n, B>>{pinned<1, n>(a), pinned<1, n>(b)};
@@ -135,7 +135,7 @@ template <class A> struct Squares {
     {
         return [x = PlaneLanes<n, A>(a)](int k, i64 i) VOKM_INLINE_LAMBDA { return x(k, i) * x(k, i); };
     }
-    template <Order order, int n> VOKM_INLINE auto folded(i32 i) const { return foldedSum<order, n>(a, a, i); }
+    template <Order order, int n> VOKM_INLINE auto folded(As<Pack<double>>, i32 i) const { return foldedSum<order, n>(a, a, i); }
     template <int n> VOKM_INLINE auto pin() const { return Squares<Pinned<1, n, A>>{pinned<1, n>(a)}; }
     const auto& lead() const { return a; }
 };
@@ -202,8 +202,8 @@ VOKM_INLINE vokStatus reduce(
         if constexpr (Terms::mayBePlanes) {
             if (count >= 32 && terms.planes(Shaped<StrideView<T, Code::va>>{results, {1, 1}}, count, k)) {
                 along(count, [d = dst.base, term = terms.template alongPlanes<k>(), finish](i64 i) VOKM_INLINE_LAMBDA {
-                    T p[k];
-                    for (int j = 0; j < k; ++j) p[j] = term(j, i);
+                    T p[decltype(length)::value];
+                    for (int j = 0; j < decltype(length)::value; ++j) p[j] = term(j, i);
                     d[i] = finish(sum<order>(p));
                 });
                 return vokStatusOk;
@@ -215,7 +215,7 @@ VOKM_INLINE vokStatus reduce(
         walkGuarded<T>(count, guard, [&](auto as, i32 i) VOKM_INLINE_LAMBDA {
             using V = typename decltype(as)::type;
             if constexpr (isPack<V> && sizeof(T) == 8 && folds<order, k> && Terms::folds) {
-                return storeLanes(dst.base + i, finish(pins.template folded<order, k>(i)));
+                return storeLanes(dst.base + i, finish(pins.template folded<order, k>(as, i)));
             }
             V p[k];
             pins.fixedTerms(p, held, i);
