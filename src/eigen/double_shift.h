@@ -1,17 +1,12 @@
-// The double-shift iteration on a Hessenberg matrix, with implicit sweeps and
-// deflation from the bottom up.
+// The double-shift iteration on a Hessenberg matrix, with implicit sweeps and deflation from the bottom up.
 //
-// Without vectors only the active block has to be right, and a subdiagonal
-// element counts as zero by an absolute test. With vectors the whole matrix
-// becomes quasi-triangular, the square `z` takes every transformation too, and
-// the test is relative to the neighbouring diagonal elements. All else is the
-// same.
+// Without vectors only the active block has to be right, and a subdiagonal element counts as zero by an absolute test. With
+// vectors the whole matrix becomes quasi-triangular, the square `z` takes every transformation too, and the test is relative
+// to the neighbouring diagonal elements. All else is the same.
 //
-// In a pack each lane has its own active block and its own start of a sweep. A
-// step k of the sweep serves the lanes that are on their way at k; the others
-// subtract +0. Rows and columns that no longer belong to a lane's block are
-// stale without vectors, and zero below it with vectors, so that they may be
-// run over.
+// In a pack each lane has its own active block and its own start of a sweep. A step k of the sweep serves the lanes that are
+// on their way at k; the others subtract +0. Rows and columns that no longer belong to a lane's block are stale without
+// vectors, and zero below it with vectors, so that they may be run over.
 #pragma once
 
 #include "real_block.h"
@@ -29,8 +24,7 @@ template <class V, class N, bool vectors> class DoubleShift {
     Square<V, N> h, z;
     V smallest;      // with vectors: up to here a subdiagonal element is zero at once
     T *re, *im;      // eigenvalue i of a lane at i*L + lane
-    I lo, hi;        // the active block, the last index included; hi is -1 when all is
-                     // done
+    I lo, hi;        // the active block, the last index included; hi is -1 when all is done
     i32 highest;     // hi of the lane that is farthest back
     T cs[L], sn[L];  // the rotation of the last 2x2 block
 
@@ -42,9 +36,8 @@ public:
         for (int l = 0; l < L; ++l) cs[l] = 1, sn[l] = 0;
     }
 
-    /// Eigenvalues are written where they deflate. The budget of 30*n steps is
-    /// the whole matrix's. A pack is given up before a lane takes the first of
-    /// its unusual steps.
+    /// Eigenvalues are written where they deflate. The budget of 30*n steps is the whole matrix's. A pack is given up before
+    /// a lane takes the first of its unusual steps.
     VOKM_INLINE vokStatus run()
     {
         I its = indices<V>(0);
@@ -75,8 +68,7 @@ private:
         V h33, h44, h43h34;
     };
 
-    /// Moves lo to the last small subdiagonal element of the block, if there is
-    /// one.
+    /// Moves lo to the last small subdiagonal element of the block, if there is one.
     VOKM_INLINE void deflate()
     {
         I found = lo;
@@ -171,9 +163,8 @@ private:
         }
     }
 
-    /// The bottom 2x2 block's eigenvalues as sum and product: the two of a
-    /// complex pair, or twice the real one nearer to the last element. Steps 10
-    /// and 20 break cycles.
+    /// The bottom 2x2 block's eigenvalues as sum and product: the two of a complex pair, or twice the real one nearer to the
+    /// last element. Steps 10 and 20 break cycles.
     VOKM_INLINE Shifts chooseShifts([[maybe_unused]] I its) const
     {
         const V half = splat<V>(T(0.5)), zero{};
@@ -196,8 +187,7 @@ private:
         return {choose(real, shift, h33), choose(real, shift, last), choose(real, zero, product)};
     }
 
-    /// Where a sweep may start: below two small subdiagonal elements in a row. r:
-    /// the first column of the shifted product.
+    /// Where a sweep may start: below two small subdiagonal elements in a row. r: the first column of the shifted product.
     VOKM_INLINE I startOfSweep(const Shifts& shifts, V (&r)[3]) const
     {
         I m = indices<V>(0);
@@ -269,8 +259,7 @@ private:
         }
     }
 
-    /// a + v1*b, or a + v1*b + v2*c: `mixed`, where some lanes take two terms and
-    /// those of `three` all.
+    /// a + v1*b, or a + v1*b + v2*c: `mixed`, where some lanes take two terms and those of `three` all.
     template <int terms, bool mixed> VOKM_INLINE static V sumOf(V a, V b, V c, const V (&v)[3], C three)
     {
         const V two = a + v[1] * b;

@@ -1,6 +1,5 @@
-// vokmEigenValues: Hessenberg form, then the double-shift iteration, on the
-// transpose of each matrix: rows of the operand are columns of the work area.
-// No balancing, no order of the eigenvalues but that of their deflation.
+// vokmEigenValues: Hessenberg form, then the double-shift iteration, on the transpose of each matrix: rows of the operand are
+// columns of the work area. No balancing, no order of the eigenvalues but that of their deflation.
 #include "eigen_general.h"
 
 #include "double_shift.h"
@@ -27,8 +26,7 @@ VOKM_INLINE vokStatus valuesOfEach(const A& src, T* re, T* im, i32 from, i32 to,
     return vokStatusOk;
 }
 
-/// Packs, as long as there are whole ones. A pack in which a lane does not come
-/// to its end is done again one by one.
+/// Packs, as long as there are whole ones. A pack in which a lane does not come to its end is done again one by one.
 template <int n, class T, class A> VOKM_INLINE vokStatus valuesOfPacks(const A& src, T* re, T* im, i32 count)
 {
     constexpr i32 L = packLanes<T>;

@@ -1,8 +1,6 @@
-// vokmEigenValuesVectors, vokmEigenValuesVectorsRight,
-// vokmEigenValuesVectorsLeft: Hessenberg form, orthogonal matrix,
-// quasi-triangular form, back substitution, length 1. All of it speaks of the
-// transpose of each matrix: rows of the operand are columns of the work area;
-// the vectors are not transposed back.
+// vokmEigenValuesVectors, vokmEigenValuesVectorsRight, vokmEigenValuesVectorsLeft: Hessenberg form, orthogonal matrix,
+// quasi-triangular form, back substitution, length 1. All of it speaks of the transpose of each matrix: rows of the operand
+// are columns of the work area; the vectors are not transposed back.
 #include "eigen_general.h"
 
 #include "back_substitution.h"
@@ -15,9 +13,8 @@ namespace vokm {
 struct NotWanted {};
 template <class View> constexpr bool wanted = !std::is_same_v<View, NotWanted>;
 
-/// The working memory of one object: the matrix; the orthogonal matrix, which
-/// turns into vectors; its copy for a second side; rows for scale factors,
-/// sums, right-hand sides.
+/// The working memory of one object: the matrix; the orthogonal matrix, which turns into vectors; its copy for a second side;
+/// rows for scale factors, sums, right-hand sides.
 template <class T, class N> struct GeneralWork {
     Square<T, N> h, z, copy;
     T* rows;
@@ -64,8 +61,7 @@ template <class T, class N> [[gnu::noinline]] Leave leftVectors(GeneralWork<T, N
     return leave;
 }
 
-/// With both sides the right vectors take the orthogonal matrix and the left
-/// ones its copy.
+/// With both sides the right vectors take the orthogonal matrix and the left ones its copy.
 template <bool right, bool left, class T, class N> VOKM_INLINE Outcome vectorsOf(GeneralWork<T, N> work, const T* im)
 {
     if constexpr (right && left) std::copy_n(work.z.base, i64(work.z.n()) * work.z.n(), work.copy.base);
@@ -122,9 +118,8 @@ template <class T, class A, class R, class L> struct EigenvectorCall {
         return {false, vokStatusOk};
     }
 
-    /// The quasi-triangular form for packs, as long as there are whole ones; the
-    /// vectors lane by lane. A pack in which a lane does not come to its end is
-    /// done again one by one.
+    /// The quasi-triangular form for packs, as long as there are whole ones; the vectors lane by lane. A pack in which a lane
+    /// does not come to its end is done again one by one.
     template <int n> VOKM_INLINE vokStatus packs(i32 count, GeneralWork<T, Fixed<n>> work) const
     {
         constexpr i32 lanes = packLanes<T>;

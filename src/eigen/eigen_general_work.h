@@ -1,6 +1,5 @@
-// How matrices come into the work area of the general eigenproblems: rows of
-// the operand become columns, one object at a time or a pack of them, and
-// eigenvalues of a pack go to their objects.
+// How matrices come into the work area of the general eigenproblems: rows of the operand become columns, one object at a time
+// or a pack of them, and eigenvalues of a pack go to their objects.
 #pragma once
 
 #include "hessenberg.h"

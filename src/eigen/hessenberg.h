@@ -1,6 +1,5 @@
-// Hessenberg form of a square matrix by reflections, and what the general
-// eigenproblems share: their constants, the square work area, the reflection. V
-// is the element type, for one object, or a pack, for one object a lane.
+// Hessenberg form of a square matrix by reflections, and what the general eigenproblems share: their constants, the square
+// work area, the reflection. V is the element type, for one object, or a pack, for one object a lane.
 #pragma once
 
 #include <algorithm>
@@ -11,8 +10,7 @@
 
 namespace vokm {
 
-/// Sizes of a work area: Fixed<n> (fixed.h) where the compiler knows the size,
-/// else this.
+/// Sizes of a work area: Fixed<n> (fixed.h) where the compiler knows the size, else this.
 struct AnySize {
     i32 value;
 };
@@ -27,8 +25,7 @@ template <class T> struct GeneralConstants {
 };
 template <class V> using ConstantsOf = GeneralConstants<Element<V>>;
 
-/// A column-major square matrix in working memory, indices from 0. `lanes`: the
-/// distance of two elements of one object.
+/// A column-major square matrix in working memory, indices from 0. `lanes`: the distance of two elements of one object.
 template <class V, class N, int lanes = 1> struct Square {
     V* base;
     [[no_unique_address]] N size;
@@ -54,9 +51,8 @@ template <class T> VOKM_INLINE T productOfRoots(T x, T y)
     return static_cast<T>(std::sqrt(static_cast<double>(x)) * std::sqrt(static_cast<double>(y)));
 }
 
-/// The length of (u, v), both not negative: w * sqrt(1 + z*z / (w*w)), w the
-/// larger. The squares are divided, not squared after division; the sum and its
-/// root are in 64f.
+/// The length of (u, v), both not negative: w * sqrt(1 + z*z / (w*w)), w the larger. The squares are divided, not squared
+/// after division; the sum and its root are in 64f.
 template <class V> VOKM_INLINE V hypotenuse(V u, V v)
 {
     const V w = larger(u, v), z = smaller(u, v);
@@ -64,10 +60,9 @@ template <class V> VOKM_INLINE V hypotenuse(V u, V v)
     return choose(cond(above(splat<V>(ConstantsOf<V>::safmin), z)), w, w * narrow<V>(rootOfOnePlus(wide(quotient))));
 }
 
-/// The reflection I - tau * v * v^T, v = (1, x), that takes (alpha, x) to
-/// (beta, 0): x becomes the rest of v, alpha becomes beta, tau is returned; 0
-/// stands for the identity, which leaves alpha and x. A root of 32f that passes
-/// through 64f is the 32f root, since 53 bits are enough not to round twice.
+/// The reflection I - tau * v * v^T, v = (1, x), that takes (alpha, x) to (beta, 0): x becomes the rest of v, alpha becomes
+/// beta, tau is returned; 0 stands for the identity, which leaves alpha and x. A root of 32f that passes through 64f is the
+/// 32f root, since 53 bits are enough not to round twice.
 template <class V> VOKM_INLINE V makeReflection(V& alpha, V* x, i32 rest)
 {
     using K = ConstantsOf<V>;
@@ -87,8 +82,7 @@ template <class V> VOKM_INLINE V makeReflection(V& alpha, V* x, i32 rest)
     return keep(reflects, tau);
 }
 
-/// h = h * (I - tau*v*v^T) over the columns from `first` on, in the lanes
-/// `where`. Sums ascend from 0; the term is (tau*w)*v.
+/// h = h * (I - tau*v*v^T) over the columns from `first` on, in the lanes `where`. Sums ascend from 0; the term is (tau*w)*v.
 template <class V, class N> VOKM_INLINE void reflectColumns(Square<V, N> h, i32 first, const V* v, V tau, Cond<V> where, V* w)
 {
     const i32 n = h.n();
@@ -102,8 +96,7 @@ template <class V, class N> VOKM_INLINE void reflectColumns(Square<V, N> h, i32 
     }
 }
 
-/// h = (I - tau*v*v^T) * h over the rows and columns from `first` on. Sums
-/// ascend from 0; the term is (tau*v)*w.
+/// h = (I - tau*v*v^T) * h over the rows and columns from `first` on. Sums ascend from 0; the term is (tau*v)*w.
 template <class V, class N> VOKM_INLINE void reflectRows(Square<V, N> h, i32 first, const V* v, V tau, Cond<V> where)
 {
     for (i32 c = first; c < h.n(); ++c) {
@@ -114,8 +107,8 @@ template <class V, class N> VOKM_INLINE void reflectRows(Square<V, N> h, i32 fir
     }
 }
 
-/// Reduces h. The reflections stay: the scale factor of column i in tau[i], its
-/// vector behind a leading 1 below the subdiagonal. `w`: n elements.
+/// Reduces h. The reflections stay: the scale factor of column i in tau[i], its vector behind a leading 1 below the
+/// subdiagonal. `w`: n elements.
 template <class V, class N> VOKM_INLINE void toHessenberg(Square<V, N> h, V* tau, V* w)
 {
     for (i32 i = 0; i + 1 < h.n(); ++i) {
@@ -131,8 +124,7 @@ template <class V, class N> VOKM_INLINE void toHessenberg(Square<V, N> h, V* tau
     }
 }
 
-/// z = the product of the reflections that toHessenberg left in h, from the
-/// last one back.
+/// z = the product of the reflections that toHessenberg left in h, from the last one back.
 template <class V, class N> VOKM_INLINE void formOrthogonal(Square<V, N> h, const V* tau, Square<V, N> z)
 {
     for (i32 j = 0; j < z.n(); ++j) {

@@ -1,14 +1,12 @@
-// What an iteration needs so that one text serves a single object and a pack of
-// objects whose lanes take different turns: conditions, choices and indices by
-// lane, and the 64f detours of 32f arithmetic.
+// What an iteration needs so that one text serves a single object and a pack of objects whose lanes take different turns:
+// conditions, choices and indices by lane, and the 64f detours of 32f arithmetic.
 #pragma once
 
 #include "../frame/pack.h"
 
 namespace vokm {
 
-// A condition or an index by lane: bool and i32 for one object; for packs four
-// 32-bit numbers, two alike for a 64f lane.
+// A condition or an index by lane: bool and i32 for one object; for packs four 32-bit numbers, two alike for a 64f lane.
 using Fours = Pack<float>;
 typedef i32 Indices __attribute__((vector_size(16)));
 template <class V> using Cond = std::conditional_t<isPack<V>, Indices, bool>;
@@ -50,8 +48,7 @@ VOKM_INLINE Indices negation(Indices m) { return ~m; }
 template <class X> VOKM_INLINE X choose(bool m, X x, X y) { return m ? x : y; }
 template <class X> VOKM_INLINE X choose(Indices m, X x, X y) { return (X)(((Indices)x & m) | ((Indices)y & ~m)); }
 
-/// x in the lanes of m, +0 in the others: what may be subtracted everywhere
-/// without a trace.
+/// x in the lanes of m, +0 in the others: what may be subtracted everywhere without a trace.
 template <class V> VOKM_INLINE V keep(bool m, V x) { return m ? x : V(0); }
 template <class V> VOKM_INLINE V keep(Indices m, V x) { return (V)((Indices)x & m); }
 

@@ -1,14 +1,12 @@
-// The 2x2 block at which the double-shift iteration ends: its standard form,
-// equal diagonal elements with off-diagonal ones of opposite sign for a complex
-// pair, upper triangular for two real eigenvalues.
+// The 2x2 block at which the double-shift iteration ends: its standard form, equal diagonal elements with off-diagonal ones
+// of opposite sign for a complex pair, upper triangular for two real eigenvalues.
 #pragma once
 
 #include "hessenberg.h"
 
 namespace vokm {
 
-/// A block [[a, b], [c, d]] and the rotation (cs, sn) that brought it to its
-/// form.
+/// A block [[a, b], [c, d]] and the rotation (cs, sn) that brought it to its form.
 template <class T> struct RealBlock {
     T a, b, c, d, cs, sn;
 
@@ -40,8 +38,7 @@ template <class T> VOKM_INLINE void RealBlock<T>::standardise()
         b = -c, c = 0;
         cs = 0, sn = 1;
     } else if (isZero(a - d)) {
-        // Taken for a complex pair also where b and c agree in sign; then the
-        // rotation of the block before stays.
+        // Taken for a complex pair also where b and c agree in sign; then the rotation of the block before stays.
         if (signOf(b) != signOf(c)) cs = 1, sn = 0;
     } else {
         const T temp = a - d, p = T(0.5) * temp;
@@ -69,8 +66,7 @@ template <class T> VOKM_INLINE void RealBlock<T>::separateReal(T larger, T small
     b = b - c, c = 0;
 }
 
-/// Complex, or real and nearly equal: a rotation makes the diagonal elements
-/// equal.
+/// Complex, or real and nearly equal: a rotation makes the diagonal elements equal.
 template <class T> VOKM_INLINE void RealBlock<T>::equalDiagonal(T p, T temp)
 {
     using K = GeneralConstants<T>;
@@ -101,9 +97,8 @@ template <class T> VOKM_INLINE void RealBlock<T>::turn()
     c = -aa * sn + cc * cs, d = -bb * sn + dd * cs;
 }
 
-/// Off-diagonal elements of one sign behind the rotation. Deliberate: the
-/// distance of the two eigenvalues is taken from p, the half difference of the
-/// diagonal before it, not from the roots of b and c.
+/// Off-diagonal elements of one sign behind the rotation. Deliberate: the distance of the two eigenvalues is taken from p,
+/// the half difference of the diagonal before it, not from the roots of b and c.
 template <class T> VOKM_INLINE void RealBlock<T>::separateAlike(T p, T middle)
 {
     const T sab = root(magnitude(b)), sac = root(magnitude(c)), t = 1 / root(magnitude(b + c));
