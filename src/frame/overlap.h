@@ -77,12 +77,33 @@ template <class A, class B> bool positionsApart(Shaped<A> a, Shaped<B> b, i64 re
 template <class View> constexpr bool isList = requires(const View& view) { view.list; };
 template <class View> constexpr bool fixedStep = View::array && !isList<View>;
 
+/// Whether the planes of `count` elements that begin at each position of the result follow one another without overlap, by rows
+/// or by columns: each element is written once, and no order of the planes can be seen.
+template <class D> [[gnu::noinline]] bool planesApart(Shaped<D> dst, i32 count)
+{
+    const auto object = dst.view.object(0, dst.shape);
+    const auto ascending = [&](i32 outer, i32 inner, auto at) {
+        Address end = 0;
+        for (i32 o = 0; o < outer; ++o) {
+            for (i32 i = 0; i < inner; ++i) {
+                const auto place = reinterpret_cast<Address>(at(o, i));
+                if (place < end) return false;
+                end = place + Address(count) * sizeof(typename D::element);
+            }
+        }
+        return true;
+    };
+    return ascending(dst.shape.rows, dst.shape.cols, [&](i32 r, i32 c) { return &object(r, c); }) ||
+           ascending(dst.shape.cols, dst.shape.rows, [&](i32 c, i32 r) { return &object(r, c); });
+}
+
 template <class D> [[gnu::noinline]] bool resultsApart(Shaped<D> dst)
 {
     constexpr i64 E = sizeof(typename D::element), N = packLanes<typename D::element>;
     const Extent one = dst.extent(0);
     const i64 step = dst.view.stride0;
     if (Address(step) >= one.high - one.low) return true;
+    if (planesApart(dst, static_cast<i32>((N - 1) * step / E + 1))) return true;
     i32 position = 0, same = 0;  // a table may name one place twice
     dst.eachElement(0, [&](Address x) {
         ++position;
@@ -106,26 +127,6 @@ template <class D> [[gnu::noinline]] bool elementsApart(Shaped<D> dst)
         const i64 rowStep = dst.view.stride1, colStep = dst.view.stride2;
         return rowStep >= dst.shape.cols * colStep || colStep >= dst.shape.rows * rowStep;
     }
-}
-
-/// Whether the planes of `count` elements that begin at each position of the result follow one another without overlap, by rows
-/// or by columns: each element is written once, and no order of the planes can be seen.
-template <class D> [[gnu::noinline]] bool planesApart(Shaped<D> dst, i32 count)
-{
-    const auto object = dst.view.object(0, dst.shape);
-    const auto ascending = [&](i32 outer, i32 inner, auto at) {
-        Address end = 0;
-        for (i32 o = 0; o < outer; ++o) {
-            for (i32 i = 0; i < inner; ++i) {
-                const auto place = reinterpret_cast<Address>(at(o, i));
-                if (place < end) return false;
-                end = place + Address(count) * sizeof(typename D::element);
-            }
-        }
-        return true;
-    };
-    return ascending(dst.shape.rows, dst.shape.cols, [&](i32 r, i32 c) { return &object(r, c); }) ||
-           ascending(dst.shape.cols, dst.shape.rows, [&](i32 c, i32 r) { return &object(r, c); });
 }
 
 template <class D> VOKM_INLINE bool resultsApartIfArray(const Shaped<D>& dst)

@@ -36,43 +36,40 @@ inline constexpr Row rowQrBackSubstMava{.of32f = qrOrders,
 
 }  // namespace vokm
 
-#define REFLECT_PARAMS(L, T, c) VOKM_PARAM(L, c, const T, src), T *buffer, VOKM_PARAM(L, c, T, dst), int32_t width, int32_t height
-#define REFLECT_ARGS(L, T, c)                                                                                                    \
-    VOKM_VIEW(L, c, const T, src), vokm::Scratch<T>{buffer}, VOKM_VIEW(L, c, T, dst), vokm::Sizes { width, height }
-#define REFLECT_TYPES(D, L, T, c)                                                                                                \
+#define REFLECT_PARAMS(L, T, c) \
+    VOKM_PARAM(L, c, const T, src), T *buffer, VOKM_PARAM(L, c, T, dst), int32_t width, int32_t height
+#define REFLECT_ARGS(L, T, c) \
+    VOKM_VIEW(L, c, const T, src), vokm::Scratch<T>{buffer}, VOKM_VIEW(L, c, T, dst), vokm::Sizes{width, height}
+#define REFLECT_TYPES(D, L, T, c) \
     D<VOKM_TYPE(L, c, const T)> src, vokm::Scratch<T> buffer, D<VOKM_TYPE(L, c, T)> dst, vokm::Sizes<2> sizes
 #define REFLECT_NAMES(c) src, buffer, dst, sizes
 #define REFLECT_KERNEL(row, T, variant, c) vokm::qrDecomp(src, buffer.base, dst, vokm::Shape{sizes[1], sizes[0]}, 1)
 
 #define REFLECTS_PARAMS(L, T, c) REFLECT_PARAMS(L, T, c), int32_t count
-#define REFLECTS_ARGS(L, T, c)                                                                                                   \
-    REFLECT_ARGS(L, T, c), vokm::Count { count }
+#define REFLECTS_ARGS(L, T, c) REFLECT_ARGS(L, T, c), vokm::Count{count}
 #define REFLECTS_TYPES(D, L, T, c) REFLECT_TYPES(D, L, T, c), vokm::Count count
 #define REFLECTS_NAMES(c) REFLECT_NAMES(c), count
-#define REFLECTS_KERNEL(row, T, variant, c) vokm::qrDecomp(src, buffer.base, dst, vokm::Shape{sizes[1], sizes[0]}, count.n)
+#define REFLECTS_KERNEL(row, T, variant, c) \
+    vokm::qrDecomp(src, buffer.base, dst, vokm::Shape{sizes[1], sizes[0]}, count.n)
 
-#define QR_SOLVE_PARAMS(L, T, c1, c2)                                                                                            \
-    VOKM_PARAM(L, c1, const T, src), T *buffer, VOKM_PARAM(L, c2, const T, src2), VOKM_PARAM(L, c2, T, dst), int32_t width,      \
-        int32_t height
-#define QR_SOLVE_ARGS(L, T, c1, c2)                                                                                              \
-    VOKM_VIEW(L, c1, const T, src), vokm::Scratch<T>{buffer}, VOKM_VIEW(L, c2, const T, src2), VOKM_VIEW(L, c2, T, dst),         \
-        vokm::Sizes                                                                                                              \
-    {                                                                                                                            \
-        width, height                                                                                                            \
-    }
-#define QR_SOLVE_TYPES(D, L, T, c1, c2)                                                                                          \
-    D<VOKM_TYPE(L, c1, const T)> src, vokm::Scratch<T> buffer, D<VOKM_TYPE(L, c2, const T)> src2, D<VOKM_TYPE(L, c2, T)> dst,    \
-        vokm::Sizes<2> sizes
+#define QR_SOLVE_PARAMS(L, T, c1, c2)                                                                        \
+    VOKM_PARAM(L, c1, const T, src), T *buffer, VOKM_PARAM(L, c2, const T, src2), VOKM_PARAM(L, c2, T, dst), \
+        int32_t width, int32_t height
+#define QR_SOLVE_ARGS(L, T, c1, c2)                                                            \
+    VOKM_VIEW(L, c1, const T, src), vokm::Scratch<T>{buffer}, VOKM_VIEW(L, c2, const T, src2), \
+        VOKM_VIEW(L, c2, T, dst), vokm::Sizes{width, height}
+#define QR_SOLVE_TYPES(D, L, T, c1, c2)                                                           \
+    D<VOKM_TYPE(L, c1, const T)> src, vokm::Scratch<T> buffer, D<VOKM_TYPE(L, c2, const T)> src2, \
+        D<VOKM_TYPE(L, c2, T)> dst, vokm::Sizes<2> sizes
 #define QR_SOLVE_NAMES(c1, c2) src, buffer, src2, dst, sizes
-#define QR_SOLVE_KERNEL(row, T, variant, c1, c2)                                                                                 \
+#define QR_SOLVE_KERNEL(row, T, variant, c1, c2) \
     vokm::qrBackSubst<variant>(src, buffer.base, src2, dst, vokm::Shape{sizes[1], sizes[0]}, 1)
 
 #define QR_SOLVES_PARAMS(L, T, c1, c2) QR_SOLVE_PARAMS(L, T, c1, c2), int32_t count
-#define QR_SOLVES_ARGS(L, T, c1, c2)                                                                                             \
-    QR_SOLVE_ARGS(L, T, c1, c2), vokm::Count { count }
+#define QR_SOLVES_ARGS(L, T, c1, c2) QR_SOLVE_ARGS(L, T, c1, c2), vokm::Count{count}
 #define QR_SOLVES_TYPES(D, L, T, c1, c2) QR_SOLVE_TYPES(D, L, T, c1, c2), vokm::Count count
 #define QR_SOLVES_NAMES(c1, c2) QR_SOLVE_NAMES(c1, c2), count
-#define QR_SOLVES_KERNEL(row, T, variant, c1, c2)                                                                                \
+#define QR_SOLVES_KERNEL(row, T, variant, c1, c2) \
     vokm::qrBackSubst<variant>(src, buffer.base, src2, dst, vokm::Shape{sizes[1], sizes[0]}, count.n)
 
 #define QR_DECOMP_SINGLE(FORM) FORM(QRDecomp, m, vokm::rowQrSingle, REFLECT, m)
