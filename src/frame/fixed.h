@@ -17,6 +17,13 @@ template <int n, class Body> VOKM_INLINE void unrolled(Body body)
     }(std::make_integer_sequence<int, n>{});
 }
 
+/// A bound that the compiler cannot see, for a loop that is better left a loop: unrolled, it would need too many registers.
+VOKM_INLINE int rolled(int n)
+{
+    asm("" : "+r"(n));
+    return n;
+}
+
 /// Calls fixed(Fixed<n>) if n is 3 to 6, else general().
 template <class OnFixed, class General> VOKM_INLINE auto onFixed(i32 n, OnFixed fixed, General general)
 {

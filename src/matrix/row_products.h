@@ -50,7 +50,7 @@ template <Order order, class T, int n, class X, class Z>
 VOKM_INLINE void rowProduct(const X& x, const RowRegisters<T, n> (&rows)[n], const Z& z)
 {
     constexpr int size = rowRegisters<T, n>;
-    for (int r = 0; r < n; ++r) {
+    for (int r = 0, end = n > 4 ? rolled(n) : n; r < end; ++r) {
         const auto row = x(r);
         RowRegisters<T, n> s;
         unrolled<n>([&](auto k) VOKM_INLINE_LAMBDA {
