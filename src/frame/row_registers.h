@@ -43,6 +43,19 @@ template <class T, int n> struct RowRegisters {
     }
 };
 
+/// Registers of each object of a pack, as a source that is turned into lanes.
+template <class T, int size> struct TurnedRegisters {
+    static constexpr int N = packLanes<T>;
+    Pack<T> at[N][size];
+    VOKM_INLINE Pack<T> four(int lane, int k) const { return at[lane][k / N]; }
+    VOKM_INLINE Pack<float> pairs(int a, int b, int k) const
+    {
+        return k % 4 == 0 ? __builtin_shufflevector(at[a][k / 4], at[b][k / 4], 0, 1, 4, 5)
+                          : __builtin_shufflevector(at[a][k / 4], at[b][k / 4], 2, 3, 6, 7);
+    }
+    VOKM_INLINE T one(int lane, int k) const { return at[lane][k / N][k % N]; }
+};
+
 /// One lane in all lanes.
 template <int lane> VOKM_INLINE Pack<float> spreadLane(Pack<float> v) { return __builtin_shufflevector(v, v, lane, lane, lane, lane); }
 template <int lane> VOKM_INLINE Pack<double> spreadLane(Pack<double> v) { return __builtin_shufflevector(v, v, lane, lane); }

@@ -4,6 +4,7 @@
 
 #include "../frame/fixed.h"
 #include "../frame/overlap.h"
+#include "../frame/row_registers.h"
 #include "../frame/sums.h"
 
 namespace vokm {
@@ -15,6 +16,7 @@ enum class Squares {
     rowSums,          // each row left to right, then the row sums
     lastColumnFirst,  // one running sum, in each row the last element first
     columns,          // each column pairwise from the top, then the columns: even ones, odd ones, of five the last
+    lanes,            // the rows joined to one run in 16-byte registers: down each lane, even and odd ones apart, then the lanes
 };
 
 /// Which kernel sums in which order. Where nothing is promised (contiguous rows of six, or of a matrix that is not square),
@@ -24,7 +26,8 @@ template <class T> constexpr Squares squaresOrder(Variant variant, bool array, S
     const bool square = shape.rows == shape.cols, threes = square && shape.rows == 3, f32 = sizeof(T) == 4;
     if (variant == Variant::P) return array && threes ? Squares::rowByRow : Squares::inPairs;
     if (variant == Variant::plain) {
-        return (array || f32) && square && allFixed.has(shape.rows) ? Squares::columns : Squares::rowByRow;
+        if ((!array && !f32) || !square || !allFixed.has(shape.rows)) return Squares::rowByRow;
+        return shape.rows == 6 ? Squares::lanes : Squares::columns;
     }
     if (threes) return Squares::rowByRow;
     if (shape.cols == 4) return !f32 && variant == Variant::LS2 ? Squares::lastColumnFirst : Squares::rowSums;
@@ -40,6 +43,95 @@ template <int n, class V> VOKM_INLINE V sumColumns(const V (&q)[n][n])
         columns[c] = sum<Order::pairwise>(down);
     }
     return sum<n == 5 ? Order::evenOddTail : Order::evenOdd>(columns);
+}
+
+/// The same for a pack of dense objects: down the columns in each object's own registers, so that only one row of sums an
+/// object is turned into lanes. A column that would have a register of its own goes down in the lanes of the objects.
+template <int n, class A> VOKM_INLINE auto sumColumnsOfPack(const A& src, i32 i)
+{
+    using T = std::remove_const_t<typename A::element>;
+    using V = Pack<T>;
+    constexpr int N = packLanes<T>, size = (n + N - 2) / N, inRows = n % N == 1 ? n - 1 : n;
+    constexpr int K = inRows % 4 == 3 ? inRows + 1 : inRows;  // four are turned faster than three
+    constexpr Shape square{n, n};
+    TurnedRegisters<T, size> sums;
+    for (int lane = 0; lane < N; ++lane) {
+        const auto object = src.object(i + lane, square);
+        RowRegisters<T, inRows> rows[n];
+        for (int r = 0; r < n; ++r) rows[r].load(&object(r, 0));
+        for (int j = 0; j < size; ++j) {
+            V down[n];
+            for (int r = 0; r < n; ++r) down[r] = rows[r].at[j] * rows[r].at[j];
+            sums.at[lane][j] = sum<Order::pairwise>(down);
+        }
+    }
+    V turned[K], columns[n];
+    turnRuns<K>(turned, sums, false);
+    for (int c = 0; c < inRows; ++c) columns[c] = turned[c];
+    if constexpr (inRows < n) {
+        V down[n];
+        for (int r = 0; r < n; ++r) down[r] = gather<V>(src, i, square, r, n - 1);
+        for (int r = 0; r < n; ++r) down[r] = down[r] * down[r];
+        columns[n - 1] = sum<Order::pairwise>(down);
+    }
+    return sum<n == 5 ? Order::evenOddTail : Order::evenOdd>(columns);
+}
+
+/// The sums down the lanes to their sum, where a lane is a register of objects or a lane of a register.
+template <class V, int N> VOKM_INLINE V sumLanes(const V (&lanes)[N])
+{
+    return N == 2 ? lanes[0] + lanes[1] : (lanes[0] + lanes[2 % N]) + (lanes[1] + lanes[3 % N]);
+}
+/// Down a lane of k registers: the even ones as a chain, plus the odd ones as a chain.
+template <int k, class Term> VOKM_INLINE auto sumDown(Term term)
+{
+    auto even = term(Fixed<0>{}), odd = term(Fixed<1>{});
+    unrolled<k - 2>([&](auto j) VOKM_INLINE_LAMBDA {
+        constexpr int at = decltype(j)::value + 2;
+        (at % 2 == 0 ? even : odd) += term(Fixed<at>{});
+    });
+    return even + odd;
+}
+template <int n, class V> VOKM_INLINE V sumJoinedRows(const V (&q)[n][n])
+{
+    constexpr int N = packLanes<Element<V>>;
+    V lanes[N];
+    for (int lane = 0; lane < N; ++lane) {
+        lanes[lane] = sumDown<n * n / N>([&](auto j) VOKM_INLINE_LAMBDA {
+            const int at = decltype(j)::value * N + lane;
+            return q[at / n][at % n];
+        });
+    }
+    return sumLanes(lanes);
+}
+/// Register j of the joined rows; n is even, so a register holds at most the ends of two rows.
+template <int n, class T, class Object> VOKM_INLINE Pack<T> joinedRows(const Object& object, int j)
+{
+    constexpr int N = packLanes<T>;
+    const int r = j * N / n, c = j * N % n;
+    if constexpr (N == 4) {
+        if (c + N > n && object.rowStep != n * i64(sizeof(T))) {
+            const Fetch<T> ends{{&object(r, c), &object(r + 1, 0)}};
+            return ends.pairs(0, 1, 0);
+        }
+    }
+    return loadLanes<Pack<T>>(&object(r, c));
+}
+template <int n, class A> VOKM_INLINE auto sumJoinedRowsOfPack(const A& src, i32 i)
+{
+    using T = std::remove_const_t<typename A::element>;
+    constexpr int N = packLanes<T>;
+    TurnedRegisters<T, 1> sums;
+    for (int lane = 0; lane < N; ++lane) {
+        const auto object = src.object(i + lane, Shape{n, n});
+        sums.at[lane][0] = sumDown<n * n / N>([&](auto j) VOKM_INLINE_LAMBDA {
+            const Pack<T> x = joinedRows<n, T>(object, decltype(j)::value);
+            return x * x;
+        });
+    }
+    Pack<T> lanes[N];
+    turnRuns<N>(lanes, sums, false);
+    return sumLanes(lanes);
 }
 
 /// The other orders, over any shape; q(r, c) is the square.
@@ -70,6 +162,25 @@ template <class V, class Q> VOKM_INLINE V sumSquares(Squares order, Shape shape,
     return s;
 }
 
+/// The sum of object i, or of the pack of objects from i on.
+template <Squares order, class V, int n, class A> VOKM_INLINE V sumOf(const A& src, i32 i)
+{
+    if constexpr (isPack<V> && A::dense && order == Squares::columns) {
+        return sumColumnsOfPack<n>(src, i);
+    } else if constexpr (isPack<V> && A::dense && order == Squares::lanes) {
+        return sumJoinedRowsOfPack<n>(src, i);
+    } else {
+        V q[n][n];
+        load(q, src, i);
+        for (int r = 0; r < n; ++r) {
+            for (int c = 0; c < n; ++c) q[r][c] = q[r][c] * q[r][c];
+        }
+        if constexpr (order == Squares::columns) return sumColumns(q);
+        if constexpr (order == Squares::lanes) return sumJoinedRows(q);
+        return sumSquares<V>(order, Shape{n, n}, [&](i32 r, i32 c) VOKM_INLINE_LAMBDA { return q[r][c]; });
+    }
+}
+
 /// The root: in the element type behind contiguous rows of the stride layout, elsewhere in 64f.
 template <Variant variant, class V> VOKM_INLINE V norm(V s)
 {
@@ -88,22 +199,19 @@ template <Variant variant, class A, class T> VOKM_INLINE vokStatus frobNorms(A s
         const auto guard = lazyGuard<T>(count, [&]() VOKM_INLINE_LAMBDA {
             return packGuard(count, Shaped<Results>{results, {1, 1}}, Shaped<A>{src, square});
         });
-        const auto pins = pinned<n, n>(src);
-        walkGuarded<T>(count, guard, [&](auto as, i32 i) VOKM_INLINE_LAMBDA {
-            using V = typename decltype(as)::type;
-            V q[n][n];
-            load(q, pins, i);
-            for (int r = 0; r < n; ++r) {
-                for (int c = 0; c < n; ++c) q[r][c] = q[r][c] * q[r][c];
+        const auto run = [&](const auto& these) VOKM_INLINE_LAMBDA {
+            walkGuarded<T>(count, guard, [&](auto as, i32 i) VOKM_INLINE_LAMBDA {
+                using V = typename decltype(as)::type;
+                storeLanes(dst.base + i, norm<variant>(sumOf<order, V, n>(these, i)));
+            });
+        };
+        if constexpr (mayBeTight<A>) {
+            if (isTight<n, n>(src)) {
+                run(asTight<n, n>(src));
+                return vokStatusOk;
             }
-            V s;
-            if constexpr (order == Squares::columns) {
-                s = sumColumns(q);
-            } else {
-                s = sumSquares<V>(order, square, [&](i32 r, i32 c) VOKM_INLINE_LAMBDA { return q[r][c]; });
-            }
-            storeLanes(dst.base + i, norm<variant>(s));
-        });
+        }
+        run(pinned<n, n>(src));
         return vokStatusOk;
     };
     const auto general = [&]() VOKM_INLINE_LAMBDA -> vokStatus {

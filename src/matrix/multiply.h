@@ -151,7 +151,7 @@ template <int n, class A, class B, class C, class D> struct HeldOperands {
 template <Order order, class V, int n, class A, class B, class C, class D, class Held>
 VOKM_INLINE void productOfTiles(const Operands<n, A, B, C, D>& of, const Held& held, i32 i)
 {
-    constexpr int m = of.m;
+    constexpr int m = isMatrix(B::code) ? n : 1;
     V x[n][n], y[m][n], d[m][n];
     loadOrHeld(x, of.a, held.a, i);
     loadOrHeld(y, of.b, held.b, i);
