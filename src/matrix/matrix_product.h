@@ -69,6 +69,12 @@ template <class T, int n, class D> constexpr Way wayOf()
     return D::array && n == 3 && sizeof(T) == 4 ? Way::tiles : Way::rows;
 }
 
+template <class D> VOKM_INLINE bool rowsOverlap(const D& dst, int n)
+{
+    if constexpr (D::dense) return dst.stride1 < n * static_cast<i32>(sizeof(typename D::element));
+    return false;
+}
+
 /// Small sizes that come to 3 when they are joined: the 3x3 path, whatever they are. Each table is read with its own width.
 template <class T, class X, class Y, class Z> [[gnu::noinline]] void joinedProduct(X x, Y y, Z z)
 {
@@ -109,9 +115,7 @@ VOKM_INLINE vokStatus matrixProducts(A a, B b, D dst, const i32* sizes, i32 coun
     const auto fixed = [&](auto size) VOKM_INLINE_LAMBDA -> vokStatus {
         constexpr int n = decltype(size)::value;
         // Without a path of its own a size goes the way of the others, but from +0.0; rows that overlap show the general order.
-        if constexpr (D::dense && !withPath.has(n)) {
-            if (dst.stride1 < n * static_cast<i32>(sizeof(T))) return general();
-        }
+        if (!withPath.has(n) && rowsOverlap(dst, n)) return general();
         return path.template operator()<n, withPath.has(n) ? Order::chain : Order::rising>();
     };
     if constexpr (odd == OddTest::heightOfThree) {

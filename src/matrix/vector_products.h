@@ -61,7 +61,7 @@ template <Order order, int n, class A, class B, class C, class D, class Held>
 VOKM_INLINE void packOfDots(const Operands<n, A, B, C, D>& of, const Held& held, i32 i)
 {
     using T = typename D::element;
-    constexpr int N = packLanes<T>, full = n / N, rest = n % N;
+    constexpr int N = packLanes<T>, full = n / N, rest = n % N, share = rest > 0 ? rest : 1;
     const auto vector = [&](int object) VOKM_INLINE_LAMBDA -> const T* {
         if constexpr (B::array) {
             return &of.b.object(i + object, of.other)(0, 0);
@@ -88,8 +88,8 @@ VOKM_INLINE void packOfDots(const Operands<n, A, B, C, D>& of, const Held& held,
     }
     for (int j = 0; j < rest; ++j) {
         across[j] = dots(
-            full * N, [=](int lane) { return (j * N + lane) / rest; },
-            [=](int lane) { return full * N + (j * N + lane) % rest; });
+            full * N, [=](int lane) { return (j * N + lane) / share; },
+            [=](int lane) { return full * N + (j * N + lane) % share; });
     }
     const auto result = [&](int object, int r) VOKM_INLINE_LAMBDA { return &of.d.object(i + object, of.other)(0, r); };
     for (int q = 0; q < N; ++q) {
@@ -103,7 +103,7 @@ VOKM_INLINE void packOfDots(const Operands<n, A, B, C, D>& of, const Held& held,
         } else {
             for (int lane = 0; lane < N; ++lane) {
                 const int at = j * N + lane;
-                *result(at / rest, full * N + at % rest) = across[j][lane];
+                *result(at / share, full * N + at % share) = across[j][lane];
             }
         }
     }
