@@ -1,5 +1,6 @@
 #include "asc_grid.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <charconv>
 #include <cmath>
@@ -81,6 +82,22 @@ struct Key {
 
 }  // namespace
 
+double AscGrid::heightAt(int column, int row) const
+{
+    const int c = std::clamp(column, 0, columns - 1), r = std::clamp(row, 0, rows - 1);
+    const double height = heights[size_t(r) * columns + c];
+    return c == column && r == row ? height : 2 * height - heightAt(2 * c - column, 2 * r - row);
+}
+
+AscGrid AscGrid::widened(int cells) const
+{
+    AscGrid wide{columns + 2 * cells, rows + 2 * cells, cellsize, cellsizeLine, {}};
+    for (int row = -cells; row < rows + cells; ++row)
+        for (int column = -cells; column < columns + cells; ++column)
+            wide.heights.push_back(static_cast<float>(heightAt(column, row)));
+    return wide;
+}
+
 AscGrid readAscGrid(const std::string& path)
 {
     Reader in(path);
@@ -114,7 +131,7 @@ AscGrid readAscGrid(const std::string& path)
     if (columns.value * rows.value > maxCells) in.fail("the grid is too large: at most 16777216 cells can be drawn", rows.line);
     if (!(cellsize.value > 0)) in.fail("\"cellsize\" must be above 0", cellsize.line);
 
-    AscGrid grid{static_cast<int>(columns.value), static_cast<int>(rows.value), cellsize.value, {}};
+    AscGrid grid{static_cast<int>(columns.value), static_cast<int>(rows.value), cellsize.value, cellsize.line, {}};
     const auto noData = keys.find("nodata_value");
     for (int row = 1; row <= grid.rows; ++row)
         for (int column = 1; column <= grid.columns; ++column) {

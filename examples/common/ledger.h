@@ -14,7 +14,7 @@ class Ledger {
 public:
     // A tuple among the arguments stands for its elements: a pointer and its strides travel together.
     template <class... Parameters, class... Arguments>
-    void call(const char* name, int objects, vokStatus (*function)(Parameters...), const Arguments&... arguments)
+    void call(const char* name, int objects, vokStatus (*function)(Parameters...), Arguments... arguments)
     {
         const auto flat = std::tuple_cat(flatten(arguments)...);
         const auto start = std::chrono::steady_clock::now();

@@ -1,17 +1,11 @@
 #include "terrain.h"
 
+#include "legend.h"
+
 #include <algorithm>
 #include <cmath>
 
 namespace {
-
-// A height of the grid, also outside of it: there the surface goes on as a plane.
-double heightAt(const AscGrid& grid, int column, int row)
-{
-    const int c = std::clamp(column, 0, grid.columns - 1), r = std::clamp(row, 0, grid.rows - 1);
-    const double height = grid.heights[size_t(r) * grid.columns + c];
-    return c == column && r == row ? height : 2 * height - heightAt(grid, 2 * c - column, 2 * r - row);
-}
 
 // The four weights of a cubic B-spline at the fraction t of a cell. It rounds off the steps of whole metres.
 void splineWeights(double t, double (&w)[4])
@@ -55,7 +49,7 @@ Terrain::Terrain(const AscGrid& grid, int detail)
             const double place = double(column - 1) / detail, cell = std::floor(place);
             splineWeights(place - cell, w);
             double sum = 0;
-            for (int k = 0; k < 4; ++k) sum += w[k] * (heightAt(grid, int(cell) - 1 + k, row) - lowest);
+            for (int k = 0; k < 4; ++k) sum += w[k] * (grid.heightAt(int(cell) - 1 + k, row) - lowest);
             across[size_t(row + 2) * columns + column] = sum;
         }
     for (int row = 0; row < rows; ++row) {
@@ -72,6 +66,15 @@ Terrain::Terrain(const AscGrid& grid, int detail)
     }
 }
 
+void normalise(float* vectors, int stride0, int stride2, int count, Ledger& ledger)
+{
+    std::vector<float> length(count);
+    LEDGER_CALL(ledger, count, vokmL2Norm_va_32f, vectors, stride0, stride2, length.data(), 3);
+    for (float& one : length) one = 1 / one;
+    LEDGER_CALL(ledger, count, vokmMul_vaca_32f, vectors, stride0, stride2, length.data(), int(sizeof(float)), vectors, stride0,
+        stride2, 3);
+}
+
 Vectors normals(const Terrain& terrain, Ledger& ledger)
 {
     // One call for the whole grid: point i less point i - 2 and so on. At the ends of the rows that joins points of two
@@ -79,16 +82,13 @@ Vectors normals(const Terrain& terrain, Ledger& ledger)
     const Vectors& p = terrain.points;
     const int first = terrain.columns, count = p.count - 2 * first, s0 = p.stride0(), s2 = p.stride2();
     Vectors east(p.count), north(p.count), normal(p.count);
-    std::vector<float> length(p.count);
     const float* at = p.plane(0) + first;
     float *u = east.plane(0) + first, *v = north.plane(0) + first, *n = normal.plane(0) + first;
 
     LEDGER_CALL(ledger, count, vokmSub_vava_32f, at + 1, s0, s2, at - 1, s0, s2, u, s0, s2, 3);
     LEDGER_CALL(ledger, count, vokmSub_vava_32f, at - first, s0, s2, at + first, s0, s2, v, s0, s2, 3);
     LEDGER_CALL(ledger, count, vokmCrossProduct_vava_32f, u, s0, s2, v, s0, s2, n, s0, s2);
-    LEDGER_CALL(ledger, count, vokmL2Norm_va_32f, n, s0, s2, length.data(), 3);
-    for (int i = 0; i < count; ++i) length[i] = 1 / length[i];
-    LEDGER_CALL(ledger, count, vokmMul_vaca_32f, n, s0, s2, length.data(), s0, n, s0, s2, 3);
+    normalise(n, s0, s2, count, ledger);
     return normal;
 }
 
@@ -152,11 +152,8 @@ std::vector<Colour> sunAndSky(const Terrain& terrain, const Vectors& normals, Le
 
 Colour landColour(const Terrain& terrain, float z)
 {
-    static const Colour stops[] = {
-        fromHex(0x4f7f5b), fromHex(0x8fae70), fromHex(0xd9cf97), fromHex(0xd0a56c), fromHex(0xa9775a), fromHex(0xf3eee6)};
-    constexpr int last = sizeof stops / sizeof *stops - 1;
+    static const Ramp land{
+        {fromHex(0x4f7f5b), fromHex(0x8fae70), fromHex(0xd9cf97), fromHex(0xd0a56c), fromHex(0xa9775a), fromHex(0xf3eee6)}};
     const float top = terrain.zScale * (terrain.highest - terrain.lowest);
-    const float place = top > 0 ? std::clamp(z / top, 0.0f, 1.0f) * last : 0;
-    const int stop = std::min(static_cast<int>(place), last - 1);
-    return mix(stops[stop], stops[stop + 1], place - static_cast<float>(stop));
+    return land.at(top > 0 ? z / top : 0);
 }

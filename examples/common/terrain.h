@@ -22,6 +22,9 @@ struct Terrain {
     Vectors points;
 };
 
+// Makes each of an array of 3-element vectors a unit long.
+void normalise(float* vectors, int stride0, int stride2, int count, Ledger& ledger);
+
 // The unit normal of each point inside the border, from the differences of its neighbours.
 Vectors normals(const Terrain& terrain, Ledger& ledger);
 

@@ -6,6 +6,7 @@
 
 #include "asc_grid.h"
 #include "ledger.h"
+#include "legend.h"
 #include "png_image.h"
 #include "terrain.h"
 #include "view.h"
@@ -16,17 +17,6 @@
 #include <filesystem>
 
 namespace {
-
-// A round distance between contour lines (1, 2 or 5 times a power of ten) that gives about twelve of them.
-float contourInterval(const Terrain& terrain)
-{
-    const float ideal = (terrain.highest - terrain.lowest) / 12;
-    if (!(ideal > 0)) return 1;
-    const float decade = std::pow(10.0f, std::floor(std::log10(ideal)));
-    for (float round : {1.0f, 2.0f, 5.0f})
-        if (round * decade >= ideal) return round * decade;
-    return 10 * decade;
-}
 
 // How dark the contour lines make a point: lines keep their width however steep the ground, and every fifth is heavier.
 float contourShade(const Terrain& terrain, int i, float interval)
@@ -51,7 +41,7 @@ void drawPictures(const std::string& input, const std::filesystem::path& directo
     Ledger ledger;
     const Vectors normal = normals(terrain, ledger);
     std::vector<Colour> colours = sunAndSky(terrain, normal, ledger);
-    const float interval = contourInterval(terrain);
+    const float interval = roundStep(terrain.highest - terrain.lowest, 12);
     const Colour ink = fromHex(0x3a2c22);
     Image map(terrain.columns - 2, terrain.rows - 2);
     for (int row = 1; row < terrain.rows - 1; ++row)

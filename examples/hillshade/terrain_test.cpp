@@ -15,7 +15,7 @@ static void near(const char* what, double seen, double expected, double toleranc
 
 template <class Height> static AscGrid gridOf(int columns, int rows, Height height)
 {
-    AscGrid grid{columns, rows, 1, {}};
+    AscGrid grid{columns, rows, 1, 0, {}};
     for (int row = 0; row < rows; ++row)
         for (int column = 0; column < columns; ++column) grid.heights.push_back(static_cast<float>(height(column, row)));
     return grid;
