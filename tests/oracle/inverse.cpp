@@ -102,12 +102,26 @@ struct Determinant {
             if (a.rows == 3 || a.rows == 4) {
                 dst.set(i, 0, a.rows == 3 ? three(a) : four(a));
             } else if (unrolled(a.rows)) {
-                dst.set(i, 0, settled(minors(bounded(a), allBut(a.rows, -1)).back(), answer.get(i, 0)));
+                dst.set(i, 0, settled(byRows(bounded(a)), answer.get(i, 0)));
             } else {
                 dst.set(i, 0, general(a, m.function().array));
             }
         }
         return 0;
+    }
+
+    // Rows join from the top and columns are taken from the last to the first: the minors of the matrix turned by a quarter.
+    template <class V> static V byRows(const Grid<V>& a)
+    {
+        int n = a.rows;
+        Grid<V> turned(n, n);
+        for (int r = 0; r < n; ++r) {
+            for (int c = 0; c < n; ++c) {
+                turned(c, n - 1 - r) = a(r, c);
+            }
+        }
+        V det = minors(turned, allBut(n, -1)).back();
+        return n * (n - 1) / 2 % 2 ? V(0) - det : det;
     }
 
     template <class T> static T three(const Grid<T>& a)
