@@ -81,7 +81,8 @@ VOKM_INLINE auto symmetricGuard(i32 n, i32 count, const S& src, const D& vectors
     } else {
         const Shaped<D> also{vectors, {n, n}};
         const bool distinct = planesApart(also, 1);
-        const auto first = packGuard(count, to, from, also), second = packGuard(count, also, from);
+        const auto first = packGuard(count, to, from, also);
+        const auto second = packGuard(count, also, from);
         return [=](i32 i) VOKM_INLINE_LAMBDA { return distinct && first(i) && second(i); };
     }
 }

@@ -21,8 +21,13 @@ template <class V> using Condition = decltype(V{} < V{});
 template <class V> constexpr Condition<V> everyLane() { return V{} == V{}; }
 
 VOKM_INLINE bool isNot(bool condition) { return !condition; }
+VOKM_INLINE bool both(bool one, bool other) { return one && other; }
+VOKM_INLINE bool either(bool one, bool other) { return one || other; }
 template <class M>
-requires(sizeof(M) == 16) VOKM_INLINE M isNot(M mask) { return ~mask; }
+concept Mask = sizeof(M) == 16;
+template <Mask M> VOKM_INLINE M isNot(M mask) { return ~mask; }
+template <Mask M> VOKM_INLINE M both(M one, M other) { return one & other; }
+template <Mask M> VOKM_INLINE M either(M one, M other) { return one | other; }
 
 /// x where the condition holds, else +0.
 template <class V> VOKM_INLINE V onlyWhere(Condition<V> condition, V x)
@@ -101,11 +106,11 @@ template <class T, class Vectors> struct SingleSpace {
 
 template <class T, int size, bool withVectors> struct PackSpace {
     using Value = Pack<T>;
-    using Mask = Condition<Value>;
+    using Lanes = Condition<Value>;
     static constexpr int fixed = size, n = size, nv = withVectors ? size : 1;
     Value matrix[n][n], values[1][n], vectors[nv][nv];
     Value diagonal[n], below[n];
-    Mask ql;
+    Lanes ql;
 
     VOKM_INLINE Value& a(i32 i, i32 j) { return matrix[i][j]; }
     VOKM_INLINE Value& u(i32 i) { return values[0][i]; }
@@ -113,7 +118,7 @@ template <class T, int size, bool withVectors> struct PackSpace {
     VOKM_INLINE Value& d(i32 i) { return diagonal[i]; }
     VOKM_INLINE Value& e(i32 i) { return below[i]; }
     VOKM_INLINE Value& v(i32 r, i32 c) { return vectors[r][c]; }
-    VOKM_INLINE void direct(Mask downwards)
+    VOKM_INLINE void direct(Lanes downwards)
     {
         ql = downwards;
         for (int i = 0; i < n; ++i) diagonal[i] = select(ql, matrix[i][i], matrix[n - 1 - i][n - 1 - i]);
@@ -132,7 +137,7 @@ template <class T, int size, bool withVectors> struct PackSpace {
             for (int c = 0; c < n / 2; ++c) exchangeWhere(isNot(ql), vectors[r][c], vectors[r][n - 1 - c]);
         }
     }
-    VOKM_INLINE void record(Mask, const Block<Value, size>&) const {}
+    VOKM_INLINE void record(Lanes, const Block<Value, size>&) const {}
     VOKM_INLINE void finish()
     {
         for (int i = 0; i < n; ++i) values[0][i] = select(ql, diagonal[i], diagonal[n - 1 - i]);
@@ -195,7 +200,7 @@ template <SymmetricRules rules, class Space> VOKM_INLINE void reduce(Space& s)
         const auto positive = above(x, eps), none = atMost(magnitude(x), eps);
         s.u(k + 1) = select(positive, x + alpha, select(none, alpha, x - alpha));
         const V h = select(positive, two * (sigma + alpha * x), select(none, sigma + sigma, two * (sigma - alpha * x)));
-        where = where & isNot(atMost(h, eps));
+        where = both(where, isNot(atMost(h, eps)));
         if (!any(where)) continue;
         const V beta = two / h;
         reflect(s, k, beta, where);
@@ -223,21 +228,21 @@ VOKM_INLINE void pass(Space& space, i32 l, const B& block, Condition<V> open, V 
     V s = splat<V>(1), c = s, p = splat<V>(0), r = p;
     Condition<V> going = open;
     for (i32 i = block.last(); i >= l; --i) {
-        const Condition<V> here = going & block.has(i);
+        const Condition<V> here = both(going, block.has(i));
         if (isPack<V> && !any(here)) continue;
         const V f = s * space.e(i), b = c * space.e(i), oldD = space.d(i + 1);
         r = root(f * f + g * g);
-        if (i < block.last()) setWhere(here & block.has(i + 1), space.e(i + 1), r);
-        const Condition<V> small = here & atMost(magnitude(r), eps);
+        if (i < block.last()) setWhere(both(here, block.has(i + 1)), space.e(i + 1), r);
+        const Condition<V> small = both(here, atMost(magnitude(r), eps));
         if (any(small)) {  // the lane leaves at once; the element at the block's end is cut off
             setWhere(small, space.d(i + 1), oldD - p);
             for (i32 j = block.last(); j >= i; --j) {
-                setWhere(small & block.has(j) & isNot(block.has(j + 1)), space.e(j), splat<V>(0));
+                setWhere(both(small, both(block.has(j), isNot(block.has(j + 1)))), space.e(j), splat<V>(0));
             }
-            going = going & isNot(small);
+            going = both(going, isNot(small));
             if (!any(going)) return;
         }
-        const Condition<V> turns = here & isNot(small);
+        const Condition<V> turns = both(here, isNot(small));
         setWhere(turns, s, f / r);
         setWhere(turns, c, g / r);
         if constexpr (rules.vectors) rotate(space, i, c, s, turns);
@@ -250,7 +255,7 @@ VOKM_INLINE void pass(Space& space, i32 l, const B& block, Condition<V> open, V 
     }
     // Deliberate: this step can be left out for a small last r; going downwards it is forced for the first element alone.
     const auto large = above(magnitude(r), eps), notSmall = isNot(atMost(magnitude(r), eps));
-    const Condition<V> closes = going & (large | (space.ql & (l == 0 ? everyLane<V>() : notSmall)));
+    const Condition<V> closes = both(going, either(large, both(space.ql, l == 0 ? everyLane<V>() : notSmall)));
     setWhere(closes, space.d(l), space.d(l) - p);
     setWhere(closes, space.e(l), g);
 }
@@ -264,7 +269,7 @@ VOKM_INLINE void search(Space& s, i32 l, B& block, Condition<V> open, V& atEnd)
     Condition<V> inside = open;
     for (i32 i = l; i < s.n - 1; ++i) {
         const V size = magnitude(half * s.e(i));
-        inside = inside & (above(size, eps) | (isNot(s.ql) & isNot(atMost(size, eps))));
+        inside = both(inside, either(above(size, eps), both(isNot(s.ql), isNot(atMost(size, eps)))));
         if (!any(inside)) break;
         block.add(i, inside);
         setWhere(inside, atEnd, s.d(i + 1));
@@ -296,11 +301,11 @@ template <SymmetricRules rules, class Space, class V> VOKM_INLINE bool iterate(S
             search<rules>(s, l, block, open, atEnd);
             if constexpr (!rules.vectors) {
                 const Condition<V> within = isNot(block.has(s.n - 2)), upwards = isNot(s.ql);
-                const Condition<V> stopped = open & within & upwards;
+                const Condition<V> stopped = both(open, both(within, upwards));
                 setWhere(stopped, product, product * atEnd);
                 s.record(stopped, block);
             }
-            open = open & block.has(l);
+            open = both(open, block.has(l));
             if (!any(open)) break;
             if (passes == 30) return false;
             pass<rules>(s, l, block, open, shifted<rules>(s, l, atEnd));
@@ -344,13 +349,13 @@ template <bool vectors, class Space> VOKM_INLINE void sort(Space& s)
         for (i32 j = i + 2; j < s.n; ++j) best = select(above(s.u(j), best), s.u(j), best);
         Condition<V> wanted = above(best, s.u(i));
         for (i32 j = i + 1; j < s.n && any(wanted); ++j) {
-            const Condition<V> here = wanted & (s.u(j) == best);
+            const Condition<V> here = both(wanted, s.u(j) == best);
             if (!any(here)) continue;
             exchangeWhere(here, s.u(i), s.u(j));
             if constexpr (vectors) {
                 for (i32 r = 0; r < s.n; ++r) exchangeWhere(here, s.v(r, i), s.v(r, j));
             }
-            wanted = wanted & isNot(here);
+            wanted = both(wanted, isNot(here));
         }
     }
 }
