@@ -270,4 +270,66 @@ TEST(Transpose, WrappedBytesAskForNothing)
     setCacheBytes(0);
 }
 
+// Rows of the result may overlap: then the order of the stores shows. Column after column, but for four columns and four rows
+// at a time where both sides are aligned for that.
+TEST(Transpose, OverlappingRowsOfTheResult)
+{
+    if (!isDeclared("vokmTranspose_m_32f")) {
+        GTEST_SKIP();
+    }
+    constexpr int width = 11, height = 26;
+    for (int step : {1, 3, 4, 5, 8, 20}) {
+        for (int offset : {0, 1, 2}) {
+            alignas(16) float src[width * 2 * height], dst[width * 20 + height + 2] = {}, expected[std::size(dst)] = {};
+            for (float& value : src) {
+                value = float(&value - src);
+            }
+            const bool byFour = offset == 0 && step % 4 == 0;
+            int c = 0;
+            for (const int four = byFour ? width / 4 * 4 : 0; c < four; c += 4) {
+                for (int r = 0; r < height; r += 4) {
+                    for (int k = 0; k < 16; ++k) {
+                        const bool whole = r + 4 <= height;  // the rows left go one by one
+                        const int row = r + (whole ? k % 4 : k / 4), column = c + (whole ? k / 4 : k % 4);
+                        if (row < height) {
+                            expected[offset + column * step + row] = src[row * width * 2 + column];
+                        }
+                    }
+                }
+            }
+            for (; c < width; ++c) {
+                for (int r = 0; r < height; ++r) {
+                    expected[offset + c * step + r] = src[r * width * 2 + c];
+                }
+            }
+            Arguments arguments;
+            arguments.pointers = {{"src", src}, {"dst", dst + offset}};
+            arguments.integers = {{"srcStride1", width * 8}, {"srcStride2", 4}, {"width", width}, {"height", height},
+                {"dstStride1", step * 4}, {"dstStride2", 4}};
+            EXPECT_EQ(call("vokmTranspose_m_32f", arguments), 0);
+            EXPECT_TRUE(std::equal(std::begin(dst), std::end(dst), expected)) << "step " << step << " offset " << offset;
+        }
+    }
+}
+
+// Aligned 4x4 objects of an array are read whole before they are written, so they can be turned where they stand.
+TEST(Transpose, AlignedFourByFourInPlace)
+{
+    if (!isDeclared("vokmTranspose_ma_32f")) {
+        GTEST_SKIP();
+    }
+    alignas(16) float objects[3 * 16];
+    for (int k = 0; k < 48; ++k) {
+        objects[k] = float(k);
+    }
+    Arguments arguments;
+    arguments.pointers = {{"src", objects}, {"dst", objects}};
+    arguments.integers = {{"srcStride0", 64}, {"srcStride1", 16}, {"srcStride2", 4}, {"width", 4}, {"height", 4},
+        {"dstStride0", 64}, {"dstStride1", 16}, {"dstStride2", 4}, {"count", 3}};
+    EXPECT_EQ(call("vokmTranspose_ma_32f", arguments), 0);
+    for (int k = 0; k < 48; ++k) {
+        EXPECT_EQ(objects[k], float(k / 16 * 16 + k % 4 * 4 + k / 4 % 4)) << k;
+    }
+}
+
 }  // namespace

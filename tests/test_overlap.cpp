@@ -139,4 +139,40 @@ TEST(UnalignedVectors, AreSummedAscending)
     }
 }
 
+// Strided lists of vectors do what the kernel of one object does with each, also where a result lies across its sources.
+TEST(StridedLists, AreSingleVectorsInTurn)
+{
+    constexpr int count = 3, places = 64;
+    for (const char* name : {"vokmAdd_vav_32f_L", "vokmAdd_vava_32f_L", "vokmSub_vav_32f_L", "vokmSub_vava_32f_L"}) {
+        const std::string list = name, single = list.substr(0, 8) + "vv_32f";
+        const bool array = list.find("vava") != std::string::npos;
+        for (int draw = 0; draw < 600 && isDeclared(list); ++draw) {
+            Random random(draw + 1);
+            float byList[places], oneByOne[places];
+            for (int k = 0; k < places; ++k) {
+                byList[k] = oneByOne[k] = float(random() % 1000);
+            }
+            size_t at[3][count];  // src1, src2, dst
+            for (auto& operand : at) {
+                for (size_t& start : operand) start = random() % (places - 6 * 3);
+            }
+            Arguments lists, one;
+            one.integers = lists.integers = {{"src1Stride2", 8}, {"src2Stride2", 4 + 4 * int(random() % 3)},
+                {"dstStride2", 4 + 4 * int(random() % 3)}, {"length", 2 + draw % 6}};
+            lists.integers.insert({{"src1ObjShift", 0}, {"src2ObjShift", 0}, {"dstObjShift", 0}, {"count", count}});
+            float* tables[3][count];
+            for (int i = 0; i < count; ++i) {
+                if (!array) at[1][i] = at[1][0];
+                for (int k = 0; k < 3; ++k) tables[k][i] = byList + at[k][i];
+                one.pointers = {{"src1", oneByOne + at[0][i]}, {"src2", oneByOne + at[1][i]}, {"dst", oneByOne + at[2][i]}};
+                ASSERT_EQ(call(single, one), 0);
+            }
+            lists.pointers = {{"src1", tables[0]}, {"src2", tables[1]}, {"dst", tables[2]}};
+            if (!array) lists.pointers["src2"] = tables[1][0];
+            ASSERT_EQ(call(list, lists), 0);
+            ASSERT_TRUE(std::equal(byList, byList + places, oneByOne)) << list << " draw " << draw;
+        }
+    }
+}
+
 }  // namespace

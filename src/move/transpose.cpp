@@ -90,6 +90,12 @@ template <int n> VOKM_INLINE void turn(const double* from, i64 fromStep, double*
     }
 }
 
+/// Whether the objects of an array are blocks of 16-byte rows, each at a multiple of 16.
+template <class View> inline bool alignedRows(const View& view)
+{
+    return reinterpret_cast<Address>(view.base) % 16 == 0 && view.stride0 % 16 == 0 && view.stride1 == 16;
+}
+
 template <Variant variant, class T, class S, class D>
 vokStatus transpose(const S& src, const D& dst, i32 width, i32 height, i32 count)
 {
@@ -112,8 +118,10 @@ vokStatus transpose(const S& src, const D& dst, i32 width, i32 height, i32 count
         if constexpr (S::dense && requires { dst.base; src.base; }) {
             constexpr i32 row = n * static_cast<i32>(sizeof(T));
             const bool dense = n > 3 || (src.stride1 == row && dst.stride1 == row);
-            // Rows of the result that overlap one another are stored in order, too.
-            if (dense && dst.stride1 >= row && wholesApart(count, Shaped<D>{dst, shape}, Shaped<S>{src, shape})) {
+            // Rows of the result that overlap one another are stored in order, too. Aligned 4 x 4 objects of an array are read
+            // whole before they are written, so those can be turned in place.
+            const bool whole = n == 4 && sizeof(T) == 4 && S::array && alignedRows(src) && alignedRows(dst);
+            if (dense && dst.stride1 >= row && (whole || wholesApart(count, Shaped<D>{dst, shape}, Shaped<S>{src, shape}))) {
                 const T* from = src.base;
                 T* to = dst.base;
                 const i64 fromStep = src.stride0, toStep = dst.stride0, fromRow = src.stride1, toRow = dst.stride1;

@@ -28,13 +28,25 @@ void ownm_Transpose_32s(
     }
 }
 
-// Four columns at a time, and of these four rows at a time in registers.
+/// Whether the rows of the result lie apart from one another and from the source: then no order of the walk can be seen.
+static bool orderUnseen(const float* src, i64 srcStep, const float* dst, i64 dstStep, i64 width, i64 rows)
+{
+    const auto begin = [](const float* p) { return reinterpret_cast<std::uintptr_t>(p); };
+    const i64 gap = static_cast<i64>(begin(dst) - begin(src));
+    return dstStep >= rows * 4 && (gap >= (rows - 1) * srcStep + width * 4 || -gap >= (width - 1) * dstStep + rows * 4);
+}
+
+// Four columns at a time, and of these four rows at a time in registers, where both sides are aligned for that. Elsewhere column
+// after column, in 16-byte pieces of the row that takes it; a caller sees the difference if rows of the result overlap.
 void owniTranspose_32s_asm(const float* src, int32_t srcStep, float* dst, int32_t dstStep, int32_t width, int32_t rows)
 {
     const auto row = [&](i32 r) { return byBytes(src, i64(r) * srcStep); };
     const auto result = [&](i32 c) { return byBytes(dst, i64(c) * dstStep); };
+    const auto from = reinterpret_cast<std::uintptr_t>(src) | static_cast<std::uintptr_t>(srcStep);
+    const auto to16 = reinterpret_cast<std::uintptr_t>(dst) | static_cast<std::uintptr_t>(dstStep);
+    const bool byFour = (from % 8 == 0 && to16 % 16 == 0) || orderUnseen(src, srcStep, dst, dstStep, width, rows);
     i32 c = 0;
-    for (; c + 4 <= width; c += 4) {
+    for (; byFour && c + 4 <= width; c += 4) {
         float* const to[4] = {result(c), result(c + 1), result(c + 2), result(c + 3)};
         i32 r = 0;
         for (; r + 4 <= rows; r += 4) {
@@ -47,7 +59,11 @@ void owniTranspose_32s_asm(const float* src, int32_t srcStep, float* dst, int32_
         }
     }
     for (; c < width; ++c) {
-        for (i32 r = 0; r < rows; ++r) result(c)[r] = row(r)[c];
+        float* const to = result(c);
+        i32 r = 0;
+        for (; r < rows && reinterpret_cast<std::uintptr_t>(to + r) % 16 != 0; ++r) to[r] = row(r)[c];
+        for (; r + 4 <= rows; r += 4) storeLanes(to + r, Pack<float>{row(r)[c], row(r + 1)[c], row(r + 2)[c], row(r + 3)[c]});
+        for (; r < rows; ++r) to[r] = row(r)[c];
     }
 }
 
@@ -59,8 +75,9 @@ void owniTranspose_32s_NT(const float* src, int32_t srcStep, float* dst, int32_t
     for (i32 c = 0; c < width; c += 2) {
         const bool pair = c + 1 < width;
         for (i32 r = 0; r < rows; ++r) {
-            storePastCache(result(c) + r, row(r)[c]);
-            if (pair) storePastCache(result(c + 1) + r, row(r)[c + 1]);
+            const float one = row(r)[c], other = pair ? row(r)[c + 1] : 0;
+            storePastCache(result(c) + r, one);
+            if (pair) storePastCache(result(c + 1) + r, other);
         }
     }
     finishStoresPastCache();

@@ -41,7 +41,9 @@ inline constexpr Row rowMulVaca{vectorOrders, vectorOrders, scaleConstantsLimits
 inline constexpr Paths pathsVv{{allFixed}, {allFixed}, {generalOnly}, {generalOnly}, {generalOnly}};
 inline constexpr Paths pathsVc{{allFixed}, {generalOnly}, {generalOnly}, {generalOnly}, {generalOnly}};
 inline constexpr Paths pathsMulVc{{allFixed}, {generalOnly}, {allFixed}, {generalOnly}, {generalOnly}};
-inline constexpr Paths pathsVav{{allFixed}, {allFixed}, {generalOnly}, {allFixed}, {generalOnly}};
+// Strided lists of these two forms go through the kernel of one object, which reads everything anew; those of vva do not.
+inline constexpr Paths pathsVav{{allFixed}, {allFixed}, {generalOnly}, {allFixed}, {allFixed, allFixed}};
+inline constexpr Paths pathsVva{{allFixed}, {allFixed}, {generalOnly}, {allFixed}, {generalOnly}};
 inline constexpr Paths pathsVac{{allFixed}, {generalOnly}, {generalOnly}, {allFixed}, {generalOnly}};
 inline constexpr Paths pathsMulVac{{allFixed}, {generalOnly}, {allFixed}, {allFixed}, {generalOnly}};
 inline constexpr Paths pathsVca{{allFixed}, {allFixed}, {generalOnly}, {allFixed}, {allFixed}};
@@ -68,7 +70,7 @@ inline constexpr Paths pathsVca{{allFixed}, {allFixed}, {generalOnly}, {allFixed
 #define VECTOR_SUB_VAV(FORM)                                                                              \
     FORM(Sub, vav, vokm::rowAddVav, PAIRS, va, src1, v, src2, va, vokm::pathsVav, vokm::Minus{})
 #define VECTOR_SUB_VVA(FORM) /* 64f in layout P has no wrapper */                                         \
-    FORM(Sub, vva, vokm::rowAddVac, PAIRS, v, src1, va, src2, va, vokm::pathsVav, vokm::Minus{})
+    FORM(Sub, vva, vokm::rowAddVac, PAIRS, v, src1, va, src2, va, vokm::pathsVva, vokm::Minus{})
 #define VECTOR_SUB_VAVA(FORM)                                                                             \
     FORM(Sub, vava, vokm::rowAddVava, PAIRS, va, src1, va, src2, va, vokm::pathsVav, vokm::Minus{})
 #define VECTOR_SUB_VAC(FORM)                                                                              \
