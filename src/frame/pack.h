@@ -375,6 +375,28 @@ template <int K, class View> struct PlaneLanes {
     }
 };
 
+template <class T, Unit unit> VOKM_INLINE auto behind(StridedObject<T, unit> object, i64 bytes)
+{
+    object.base = byBytes(object.base, bytes);
+    return object;
+}
+template <class T, bool transposed> VOKM_INLINE auto behind(TableObject<T, transposed> object, i64 bytes)
+{
+    object.shift += bytes;
+    return object;
+}
+/// An operand that is known to be planar.
+template <class View> struct PlanarView {
+    using element = typename View::element;
+    static constexpr Code code = View::code;
+    static constexpr bool array = true, dense = false;
+    static constexpr i32 stride0 = sizeof(element);
+    View view;
+    VOKM_INLINE auto object(i32 i, Shape shape) const { return behind(view.object(0, shape), i64(i) * stride0); }
+};
+template <class View> constexpr bool isPlanarView = false;
+template <class View> constexpr bool isPlanarView<PlanarView<View>> = true;
+
 /// Whether the objects of K elements follow one another without a gap.
 template <int K, class View> VOKM_INLINE bool packedObjects(const View& view)
 {

@@ -60,6 +60,13 @@ template <class T, int size> struct TurnedRegisters {
 template <int lane> VOKM_INLINE Pack<float> spreadLane(Pack<float> v) { return __builtin_shufflevector(v, v, lane, lane, lane, lane); }
 template <int lane> VOKM_INLINE Pack<double> spreadLane(Pack<double> v) { return __builtin_shufflevector(v, v, lane, lane); }
 
+/// A value that is complete here: g++ would rather put sums off until they are stored, and spill what goes into them.
+template <class V> VOKM_INLINE V settled(V v)
+{
+    asm("" : "+x"(v));
+    return v;
+}
+
 /// The rows of a square matrix of size n. A transposed object is turned in registers.
 template <class T, int n, class Object> VOKM_INLINE void loadRows(RowRegisters<T, n> (&rows)[n], const Object& object)
 {

@@ -6,6 +6,7 @@
 #include "../frame/fixed.h"
 #include "../frame/overlap.h"
 #include "../frame/row.h"
+#include "../frame/row_registers.h"
 #include "../frame/stamp.h"
 #include "../frame/sums.h"
 
@@ -86,6 +87,20 @@ template <int R, int C, class View> VOKM_INLINE auto tightIfArray(const View& vi
     }
 }
 
+template <class View> VOKM_INLINE bool isPlanarOrSingle(const View& view)
+{
+    if constexpr (View::array) return planar(view);
+    return true;
+}
+template <class View> VOKM_INLINE auto planarIfArray(const View& view)
+{
+    if constexpr (View::array && requires { view.stride0; }) {
+        return PlanarView<View>{view};
+    } else {
+        return view;
+    }
+}
+
 /// The operands of a product of square matrices of size n: d = a * b, or a * b + c.
 template <int n, class A, class B, class C, class D> struct Operands {
     using T = typename D::element;
@@ -116,6 +131,14 @@ template <int n, class A, class B, class C, class D> struct Operands {
     {
         return with(tightIfArray<n, n>(a), tightIfArray<m, n>(b), tightIfArray<1, n>(c), tightIfArray<m, n>(d));
     }
+    VOKM_INLINE bool planes() const
+    {
+        if constexpr (isAddend<C>) {
+            if (!isPlanarOrSingle(c)) return false;
+        }
+        return isPlanarOrSingle(a) && isPlanarOrSingle(b) && planar(d);
+    }
+    VOKM_INLINE auto asPlanes() const { return with(planarIfArray(a), planarIfArray(b), planarIfArray(c), planarIfArray(d)); }
     VOKM_INLINE auto asPinned() const { return with(pinned<n, n>(a), pinned<m, n>(b), pinnedAddend(), pinned<m, n>(d)); }
 
     template <class A2, class B2, class C2, class D2> VOKM_INLINE static auto with(const A2& a2, const B2& b2, const C2& c2, const D2& d2)
@@ -168,6 +191,38 @@ VOKM_INLINE void productOfTiles(const Operands<n, A, B, C, D>& of, const Held& h
     store(d, of.d, i);
 }
 
+/// A pack of matrices over planes, row by row. `streamed`: a row is stored before the next one of `a` is read, which must not
+/// lie where it is stored.
+template <Order order, class V, bool streamed, int n, class A, class B, class C, class D, class Held>
+VOKM_INLINE void productOfPlanes(const Operands<n, A, B, C, D>& of, const Held& held, i32 i)
+{
+    V y[n][n], d[n][n];
+    loadOrHeld(y, of.b, held.b, i);
+    const auto x = of.a.object(i, of.square);
+    const auto z = of.d.object(i, of.square);
+    for (int r = 0, end = n > 3 ? rolled(n) : n; r < end; ++r) {
+        V row[n];
+        for (int k = 0; k < n; ++k) {
+            if constexpr (A::array) {
+                row[k] = loadLanes<V>(&x(r, k));
+            } else {
+                row[k] = held.a.template at<V>(r, k);
+            }
+        }
+        for (int c = 0; c < n; ++c) {
+            V p[n];
+            for (int k = 0; k < n; ++k) p[k] = row[k] * y[k][c];
+            const V s = settled(sumOfRow<order>(p, r));
+            if constexpr (streamed) {
+                storeLanes(&z(r, c), s);
+            } else {
+                d[r][c] = s;
+            }
+        }
+    }
+    if constexpr (!streamed) store(d, of.d, i);
+}
+
 /// Calls body(operands) with the operands as they are or, if all arrays are without gaps, as tight ones.
 template <class Of, class Body> VOKM_INLINE void preferTight(const Of& of, Body body)
 {
@@ -177,22 +232,57 @@ template <class Of, class Body> VOKM_INLINE void preferTight(const Of& of, Body 
     body(of);
 }
 
-/// By tiles: in packs where the order of the objects cannot be seen.
+/// A walk in packs where the order of the objects cannot be seen, else one by one; pack(i) does a pack.
+template <Order order, int n, class A, class B, class C, class D, class Held, class Guard, class DoPack>
+VOKM_INLINE void walkOfTiles(const Operands<n, A, B, C, D>& of, const Held& held, const Guard& guard, i32 count, DoPack pack)
+{
+    walkGuarded<typename D::element>(count, guard, [&](auto as, i32 i) VOKM_INLINE_LAMBDA {
+        using V = typename decltype(as)::type;
+        if constexpr (isPack<V>) {
+            pack(i);
+        } else {
+            productOfTiles<order, V>(of, held, i);
+        }
+    });
+}
+
+/// By tiles. Over planes, matrices go row by row.
 template <Order order, int n, class A, class B, class C, class D>
 VOKM_INLINE void productsOfTiles(const Operands<n, A, B, C, D>& of, i32 count)
 {
     using T = typename D::element;
+    using V = Pack<T>;
     const HeldOperands<n, A, B, C, D> held(of, D::array && count >= packLanes<T>);
     if constexpr (!D::array) {
         productOfTiles<order, T>(of, held, 0);
     } else {
         const auto guard = of.guard(count);
-        preferTight(of, [&](const auto& these) VOKM_INLINE_LAMBDA {
-            const auto pins = these.asPinned();
-            walkGuarded<T>(count, guard, [&](auto as, i32 i) VOKM_INLINE_LAMBDA {
-                productOfTiles<order, typename decltype(as)::type>(pins, held, i);
-            });
-        });
+        const auto byTiles = [&](const auto& these) VOKM_INLINE_LAMBDA {
+            walkOfTiles<order>(these, held, guard, count, [&](i32 i) VOKM_INLINE_LAMBDA { productOfTiles<order, V>(these, held, i); });
+        };
+        if constexpr (D::dense) {
+            preferTight(of, byTiles);
+        } else {
+            const auto pins = of.asPinned();
+            if constexpr (!isList<D>) {
+                if (count >= packLanes<T> && pins.planes()) {
+                    const auto planes = pins.asPlanes();
+                    if constexpr (!isMatrix(B::code)) {
+                        byTiles(planes);
+                    } else if (separate(count, Shaped<D>{of.d, of.square}, Shaped<A>{of.a, of.square})) {
+                        walkOfTiles<order>(planes, held, guard, count, [&](i32 i) VOKM_INLINE_LAMBDA {
+                            productOfPlanes<order, V, true>(planes, held, i);
+                        });
+                    } else {
+                        walkOfTiles<order>(planes, held, guard, count, [&](i32 i) VOKM_INLINE_LAMBDA {
+                            productOfPlanes<order, V, false>(planes, held, i);
+                        });
+                    }
+                    return;
+                }
+            }
+            byTiles(pins);
+        }
     }
 }
 

@@ -17,7 +17,7 @@ template <class T, int n, class A, class D> constexpr VectorWay vectorWayOf()
 {
     if (!D::dense || !D::array) return VectorWay::tiles;
     if (!A::array) return (sizeof(T) == 4 ? n == 4 : n > 3) ? VectorWay::columns : VectorWay::tiles;
-    return isTransposed(A::code) ? VectorWay::tiles : VectorWay::dots;
+    return isTransposed(A::code) || (n == 3 && sizeof(T) == 4) ? VectorWay::tiles : VectorWay::dots;
 }
 
 template <Order order, int n, class A, class B, class C, class D>
@@ -55,6 +55,31 @@ VOKM_INLINE void productsOfColumns(const Operands<n, A, B, C, D>& of, i32 count)
     });
 }
 
+/// The sums of four rows of n terms. Orders that keep neighbours, or even and odd terms, apart are formed across the registers
+/// of two rows at a time, with fewer shuffles than turning all terms takes.
+template <Order order, int n, class Source> VOKM_INLINE auto sumsOfRows(const Source& from, int first)
+{
+    using V = decltype(from.four(0, 0));
+    if constexpr (lanesIn<V> == 4 && order == Order::evenOdd && n > 3) {
+        const bool neighbours = n == 5 && first < 4;  // of five, only the last row is summed by even and odd terms
+        const auto half = [&](int a, int b) VOKM_INLINE_LAMBDA {
+            const V p = from.four(a, 0), q = from.four(b, 0);
+            if (neighbours) return __builtin_shufflevector(p, q, 0, 2, 4, 6) + __builtin_shufflevector(p, q, 1, 3, 5, 7);
+            const V s = __builtin_shufflevector(p, q, 0, 1, 4, 5) + __builtin_shufflevector(p, q, 2, 3, 6, 7);
+            if constexpr (n == 6) return s + from.pairs(a, b, 4);
+            return s;
+        };
+        const V low = half(0, 1), high = half(2, 3);
+        V s = __builtin_shufflevector(low, high, 0, 2, 4, 6);
+        if constexpr (n == 5) s = s + fromLanes<V>([&](int lane) VOKM_INLINE_LAMBDA { return from.one(lane, 4); });
+        return s + __builtin_shufflevector(low, high, 1, 3, 5, 7);
+    } else {
+        V p[n];
+        turnRuns<n>(p, from, false);
+        return sumOfRow<order>(p, first);
+    }
+}
+
 /// A pack of objects. Their rows fill registers one after another: whole registers of each object first, then the rows that
 /// are left over of all of them.
 template <Order order, int n, class A, class B, class C, class D, class Held>
@@ -76,9 +101,7 @@ VOKM_INLINE void packOfDots(const Operands<n, A, B, C, D>& of, const Held& held,
             from.a.at[lane] = &of.a.object(i + object(lane), of.square)(row(lane), 0);
             from.b.at[lane] = vector(object(lane));
         }
-        Pack<T> p[n];
-        turnRuns<n>(p, from, false);
-        return sumOfRow<order>(p, first);
+        return settled(sumsOfRows<order, n>(from, first));
     };
     Pack<T> whole[N][full + 1], across[rest + 1];
     for (int q = 0; q < N; ++q) {
