@@ -31,4 +31,4 @@ build() {
     cmake --build "$directory"
 }
 
-toolchain=(g++ cmake ninja-build libpng-dev)
+toolchain=(g++ cmake ninja-build libpng-dev libnanoflann-dev)

@@ -22,7 +22,7 @@ struct Vectors {
 };
 
 // `count` matrices. all() is pointer, stride0, stride1, stride2; one(i) a single matrix, without stride0; sized() and
-// sizedOne(i) add width and height.
+// sizedOne(i) add width and height. column(c) is an array of vectors.
 struct Matrices {
     Matrices(int n, int rows, int columns) : count(n), height(rows), width(columns), elements(std::size_t(n) * rows * columns) {}
     float* plane(int row, int column) { return elements.data() + (std::size_t(row) * width + column) * count; }
@@ -34,6 +34,7 @@ struct Matrices {
     auto all() const { return std::tuple(elements.data(), stride0(), stride1(), stride2()); }
     auto sized() const { return std::tuple_cat(all(), std::tuple(width, height)); }
     auto one(int i) const { return std::tuple(elements.data() + i, stride1(), stride2()); }
+    auto column(int c) const { return std::tuple(plane(0, c), stride0(), stride1()); }
     auto sizedOne(int i) const { return std::tuple_cat(one(i), std::tuple(width, height)); }
 
     int count, height, width;

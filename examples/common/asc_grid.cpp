@@ -1,79 +1,15 @@
 #include "asc_grid.h"
 
+#include "word_reader.h"
+
 #include <algorithm>
-#include <cerrno>
-#include <charconv>
 #include <cmath>
-#include <cstring>
-#include <fstream>
 #include <map>
-#include <stdexcept>
 
 namespace {
 
 // More than this is refused before anything is allocated: the pictures keep some twenty numbers for each cell.
 constexpr double maxCells = 1 << 24, maxSide = 20000;
-constexpr size_t maxWord = 64;
-
-class Reader {
-public:
-    explicit Reader(const std::string& name) : path(name), file(name, std::ios::binary)
-    {
-        if (!file) throw std::runtime_error(path + ": cannot be opened: " + std::strerror(errno));
-        if (file.peek() == EOF) throw std::runtime_error(path + ": is empty or no file");
-        next();
-    }
-
-    // The word at hand (empty at the end of the file) and the line it stands in.
-    std::string word;
-    int line = 1;
-
-    void next()
-    {
-        std::streambuf& in = *file.rdbuf();
-        word.clear();
-        int c = in.sgetc();
-        for (; c != EOF && isSpace(c); c = in.snextc()) ahead += c == '\n';
-        if (c == EOF) return;  // the line stays that of the last word, where something is missing
-        line = ahead;
-        for (; c != EOF && !isSpace(c); c = in.snextc()) {
-            if (word.size() == maxWord) fail(quoted() + "... is not a number");
-            word += static_cast<char>(c);
-        }
-    }
-
-    double number(const std::string& what)
-    {
-        double value = 0;
-        const char *begin = word.data() + (word[0] == '+'), *end = word.data() + word.size();
-        auto [rest, error] = std::from_chars(begin, end, value);
-        if (word.empty()) fail("the file ends before " + what);
-        if (rest != end || error == std::errc::invalid_argument) fail(quoted() + " is not a number (" + what + ")");
-        // A float holds every height that makes sense; this also turns away inf and nan.
-        if (error != std::errc() || !(std::fabs(value) <= 1e30)) fail(word + " is out of range (" + what + ")");
-        next();
-        return value;
-    }
-
-    [[noreturn]] void fail(const std::string& what, int at = 0) const
-    {
-        throw std::runtime_error(path + ":" + std::to_string(at ? at : line) + ": " + what);
-    }
-
-    std::string quoted() const
-    {
-        std::string text = "\"";
-        for (char c : word) text += c >= ' ' && c <= '~' ? c : '?';
-        return text + "\"";
-    }
-
-private:
-    static bool isSpace(int c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
-
-    std::string path;
-    std::ifstream file;
-    int ahead = 1;
-};
 
 struct Key {
     double value;
@@ -100,7 +36,7 @@ AscGrid AscGrid::widened(int cells) const
 
 AscGrid readAscGrid(const std::string& path)
 {
-    Reader in(path);
+    WordReader in(path);
     std::map<std::string, Key> keys;
     while (!in.word.empty() && std::isalpha(static_cast<unsigned char>(in.word[0]))) {
         std::string key;
@@ -112,7 +48,7 @@ AscGrid readAscGrid(const std::string& path)
         const int line = in.line;
         in.next();
         if (in.line != line) in.fail("\"" + key + "\" has no value", line);
-        keys[key] = {in.number("the value of \"" + key + "\""), line};
+        keys[key] = {in.number([&] { return "the value of \"" + key + "\""; }), line};
     }
 
     auto require = [&](const char* key) {
@@ -135,11 +71,11 @@ AscGrid readAscGrid(const std::string& path)
     const auto noData = keys.find("nodata_value");
     for (int row = 1; row <= grid.rows; ++row)
         for (int column = 1; column <= grid.columns; ++column) {
-            const std::string place = "row " + std::to_string(row) + ", column " + std::to_string(column);
+            const auto place = [&] { return "row " + std::to_string(row) + ", column " + std::to_string(column); };
             const int line = in.line;
             const double height = in.number(place);
             if (noData != keys.end() && height == noData->second.value)
-                in.fail(place + " is a no-data cell: fill the gaps first", line);
+                in.fail(place() + " is a no-data cell: fill the gaps first", line);
             grid.heights.push_back(static_cast<float>(height));
         }
     if (!in.word.empty()) in.fail(in.quoted() + " stands behind the last of " + std::to_string(grid.heights.size()) + " heights");

@@ -14,15 +14,21 @@ class Ledger {
 public:
     // A tuple among the arguments stands for its elements: a pointer and its strides travel together.
     template <class... Parameters, class... Arguments>
-    void call(const char* name, int objects, vokStatus (*function)(Parameters...), Arguments... arguments)
+    vokStatus attempt(const char* name, int objects, vokStatus (*function)(Parameters...), Arguments... arguments)
     {
         const auto flat = std::tuple_cat(flatten(arguments)...);
         const auto start = std::chrono::steady_clock::now();
         const vokStatus status = std::apply(function, flat);
         const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
-        if (status != vokStatusOk) throw std::runtime_error(std::string(name) + ": " + vokmStatusText(status));
-        entries[name].objects += objects;
+        entries[name].objects += status == vokStatusOk ? objects : 0;
         entries[name].seconds += time.count();
+        return status;
+    }
+
+    template <class... Arguments> void call(const char* name, Arguments... arguments)
+    {
+        const vokStatus status = attempt(name, arguments...);
+        if (status != vokStatusOk) throw std::runtime_error(std::string(name) + ": " + vokmStatusText(status));
     }
 
     void print() const
@@ -54,3 +60,4 @@ private:
 };
 
 #define LEDGER_CALL(ledger, objects, function, ...) (ledger).call(#function, objects, function, __VA_ARGS__, objects)
+#define LEDGER_ATTEMPT(ledger, objects, function, ...) (ledger).attempt(#function, objects, function, __VA_ARGS__, objects)

@@ -73,6 +73,14 @@ float roundStep(float range, int most)
     return 10 * decade;
 }
 
+float scaleEnd(std::vector<float> values, int most)
+{
+    const auto place = values.begin() + static_cast<std::ptrdiff_t>(values.size() * 99 / 100);
+    std::nth_element(values.begin(), place, values.end());
+    const float step = roundStep(*place, most);
+    return step * std::max(1.0f, std::ceil(*place / step - 1e-3f));
+}
+
 void writeText(Image& image, const std::string& text, float x, float y, float size, Colour ink, float align)
 {
     const float unit = size / 6, half = 0.4f * unit;
@@ -117,7 +125,7 @@ void drawLegend(Image& image, const Ramp& ramp, const std::string& title, float 
     for (int x = 0; x < width; ++x)
         for (int y = 0; y < thick; ++y)
             image.at(left + x, top + bar + y) = ramp.at((static_cast<float>(x) + 0.5f) / static_cast<float>(width));
-    const float step = roundStep(high - low, 8);
+    const float step = roundStep(high - low, width / 80);  // the numbers have room
     const int decimals = std::max(0, static_cast<int>(std::ceil(-std::log10(step) - 1e-3f)));
     for (float k = std::ceil(low / step - 1e-3f); k * step <= high + 1e-3f * step; ++k) {
         char number[32];

@@ -14,6 +14,8 @@ struct Ramp {
 
 // A round step (1, 2 or 5 times a power of ten) that a range has at most so many of.
 float roundStep(float range, int most);
+// The end of a scale from 0 on that reaches over all values but the outermost hundredth: a round step, at most so many of them.
+float scaleEnd(std::vector<float> values, int most);
 
 // Lower case letters, digits and . - / : of a single stroke, `size` high, on a base line that begins at x (align 0), is
 // centred there (0.5) or ends there (1).

@@ -5,7 +5,7 @@
 
 Cameras::Cameras(
     int width, int height, float radius, const std::vector<float>& compass, const std::vector<float>& above, Ledger& ledger)
-    : turn(static_cast<int>(compass.size()), 4, 4), screen(turn.count, 4, 4)
+    : distance(3.5f * radius), turn(static_cast<int>(compass.size()), 4, 4), screen(turn.count, 4, 4)
 {
     Matrices around(turn.count, 4, 4), tilt(turn.count, 4, 4), lens(1, 4, 4);
     const auto put = [](Matrices& to, int i, const float(&m)[4][4]) {
@@ -19,7 +19,7 @@ Cameras::Cameras(
         put(around, i, {{-ca, sa, 0, 0}, {-sa, -ca, 0, 0}, {0, 0, 1, 0}, {0, 0, 0, 1}});
         put(tilt, i, {{1, 0, 0, 0}, {0, cb, -sb, 0}, {0, sb, cb, 0}, {0, 0, 0, 1}});
     }
-    const float distance = 3.5f * radius, w = static_cast<float>(width), h = static_cast<float>(height), focus = 1.5f * w;
+    const float w = static_cast<float>(width), h = static_cast<float>(height), focus = 1.5f * w;
     put(lens, 0,
         {{focus, w / 2, 0, distance * w / 2}, {0, 0.46f * h, -focus, distance * 0.46f * h}, {0, 0, 0, 1}, {0, 1, 0, distance}});
     LEDGER_CALL(ledger, turn.count, vokmMul_mama_32f, tilt.sized(), around.sized(), turn.all());

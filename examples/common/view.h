@@ -23,6 +23,7 @@ struct Cameras {
     Cameras(
         int width, int height, float radius, const std::vector<float>& compass, const std::vector<float>& above, Ledger& ledger);
 
+    float distance;  // from the middle
     Matrices turn, screen;
 };
 

@@ -9,24 +9,14 @@
 #include "ledger.h"
 #include "legend.h"
 #include "png_image.h"
+#include "program.h"
 #include "quadric.h"
 #include "terrain.h"
 
 #include <algorithm>
 #include <cmath>
-#include <exception>
-#include <filesystem>
 
 namespace {
-
-// The end of a scale that reaches over all values but the outermost hundredth, at a tick.
-float scaleEnd(std::vector<float> values)
-{
-    const auto place = values.begin() + static_cast<std::ptrdiff_t>(values.size() * 99 / 100);
-    std::nth_element(values.begin(), place, values.end());
-    const float step = roundStep(*place, 8);
-    return step * std::max(1.0f, std::ceil(*place / step));
-}
 
 void drawPicture(const std::string& input, const std::filesystem::path& directory)
 {
@@ -50,7 +40,7 @@ void drawPicture(const std::string& input, const std::filesystem::path& director
             slopes.push_back(shape.slope);
             curvatures.push_back(std::fabs(shape.curvature) / cell);
         }
-    const float steepest = scaleEnd(slopes), sharpest = scaleEnd(curvatures);
+    const float steepest = scaleEnd(slopes, 8), sharpest = scaleEnd(curvatures, 8);
 
     const Ramp steep{
         {fromHex(0xf7f3d0), fromHex(0xf3d27a), fromHex(0xe8964a), fromHex(0xc94a45), fromHex(0x7d2663), fromHex(0x35154b)}};
@@ -74,24 +64,11 @@ void drawPicture(const std::string& input, const std::filesystem::path& director
     ledger.print();
     std::printf("largest difference between QR and Cholesky: %.2g degrees of slope, %.2g of curvature (of up to %g and %g)\n",
         result.difference.slope, result.difference.curvature / cell, steepest, sharpest);
-    std::filesystem::create_directories(directory);
-    const std::string path = (directory / std::filesystem::path(input).stem()).string() + "-curvature.png";
+    const std::string path = stemFor(input, directory) + "-curvature.png";
     writePng(picture, path);
     std::printf("pictures: %s\n", path.c_str());
 }
 
 }  // namespace
 
-int main(int argc, char** argv)
-{
-    if (argc < 2 || argc > 3) {
-        std::fprintf(stderr, "usage: curvature GRID.asc [DIRECTORY]\n");
-        return 1;
-    }
-    try {
-        drawPicture(argv[1], argc == 3 ? argv[2] : ".");
-    } catch (const std::exception& error) {
-        std::fprintf(stderr, "curvature: %s\n", error.what());
-        return 1;
-    }
-}
+int main(int argc, char** argv) { return runProgram(argc, argv, "curvature", "GRID.asc", drawPicture); }

@@ -8,14 +8,13 @@
 #include "asc_grid.h"
 #include "ledger.h"
 #include "png_image.h"
+#include "program.h"
 #include "progress.h"
 #include "terrain.h"
 #include "view.h"
 
 #include <algorithm>
 #include <cmath>
-#include <exception>
-#include <filesystem>
 #include <random>
 
 namespace {
@@ -212,8 +211,7 @@ void drawPictures(const std::string& input, const std::filesystem::path& directo
     }
 
     ledger.print();
-    std::filesystem::create_directories(directory);
-    const std::string stem = (directory / std::filesystem::path(input).stem()).string();
+    const std::string stem = stemFor(input, directory);
     writePng(contactSheet(pictures), stem + "-frames.png");
     writeAnimation(pictures, millisecondsEach, stem + "-flyaround.png");
     std::printf("pictures: %s-flyaround.png (animated, %d frames) and %s-frames.png\n", stem.c_str(), frames, stem.c_str());
@@ -221,16 +219,4 @@ void drawPictures(const std::string& input, const std::filesystem::path& directo
 
 }  // namespace
 
-int main(int argc, char** argv)
-{
-    if (argc < 2 || argc > 3) {
-        std::fprintf(stderr, "usage: flyaround GRID.asc [DIRECTORY]\n");
-        return 1;
-    }
-    try {
-        drawPictures(argv[1], argc == 3 ? argv[2] : ".");
-    } catch (const std::exception& error) {
-        std::fprintf(stderr, "flyaround: %s\n", error.what());
-        return 1;
-    }
-}
+int main(int argc, char** argv) { return runProgram(argc, argv, "flyaround", "GRID.asc", drawPictures); }

@@ -8,13 +8,12 @@
 #include "ledger.h"
 #include "legend.h"
 #include "png_image.h"
+#include "program.h"
 #include "terrain.h"
 #include "view.h"
 
 #include <algorithm>
 #include <cmath>
-#include <exception>
-#include <filesystem>
 
 namespace {
 
@@ -58,8 +57,7 @@ void drawPictures(const std::string& input, const std::filesystem::path& directo
     drawModel(view, terrain, colours, camera, 0, ledger);
 
     ledger.print();
-    std::filesystem::create_directories(directory);
-    const std::string stem = (directory / std::filesystem::path(input).stem()).string();
+    const std::string stem = stemFor(input, directory);
     writePng(map, stem + "-map.png");
     writePng(shrink(view.image, fine), stem + "-view.png");
     std::printf("pictures: %s-map.png (contour lines every %g) and %s-view.png\n", stem.c_str(), interval, stem.c_str());
@@ -67,16 +65,4 @@ void drawPictures(const std::string& input, const std::filesystem::path& directo
 
 }  // namespace
 
-int main(int argc, char** argv)
-{
-    if (argc < 2 || argc > 3) {
-        std::fprintf(stderr, "usage: hillshade GRID.asc [DIRECTORY]\n");
-        return 1;
-    }
-    try {
-        drawPictures(argv[1], argc == 3 ? argv[2] : ".");
-    } catch (const std::exception& error) {
-        std::fprintf(stderr, "hillshade: %s\n", error.what());
-        return 1;
-    }
-}
+int main(int argc, char** argv) { return runProgram(argc, argv, "hillshade", "GRID.asc", drawPictures); }
