@@ -15,24 +15,24 @@ inline constexpr Work qrScratch = [](const Wrap* s, Wrap elementSize) { return s
 
 inline constexpr Row rowQrSingle{.of32f = qrSingleOrders, .of64f = qrSingleOrders, .mismatch = widerThanHigh};
 inline constexpr Row rowQrDecompMa{.of32f = qrOrders,
-    .of64f = qrOrders,
-    .limits = qrLimits,
-    .work = [](const Wrap* s, Wrap n) { return s[0] * s[1] * (n * 2); },
-    .mismatch = widerThanHigh,
-    .scratch = qrScratch,
-    .merges = true};
+                                   .of64f = qrOrders,
+                                   .limits = qrLimits,
+                                   .work = [](const Wrap* s, Wrap n) { return s[0] * s[1] * (n * 2); },
+                                   .mismatch = widerThanHigh,
+                                   .scratch = qrScratch,
+                                   .merges = true};
 inline constexpr Row rowQrBackSubstMva{.of32f = qrOrders,
-    .of64f = qrOrders,
-    .limits = qrLimits,
-    .work = [](const Wrap* s, Wrap n) { return s[0] * s[1] + (s[0] + s[1]) * n; },
-    .mismatch = widerThanHigh,
-    .scratch = qrScratch};
+                                       .of64f = qrOrders,
+                                       .limits = qrLimits,
+                                       .work = [](const Wrap* s, Wrap n) { return s[0] * s[1] + (s[0] + s[1]) * n; },
+                                       .mismatch = widerThanHigh,
+                                       .scratch = qrScratch};
 inline constexpr Row rowQrBackSubstMava{.of32f = qrOrders,
-    .of64f = qrOrders,
-    .limits = qrLimits,
-    .work = [](const Wrap* s, Wrap n) { return (s[0] * s[1] + s[0] + s[1]) * n; },
-    .mismatch = widerThanHigh,
-    .scratch = qrScratch};
+                                        .of64f = qrOrders,
+                                        .limits = qrLimits,
+                                        .work = [](const Wrap* s, Wrap n) { return (s[0] * s[1] + s[0] + s[1]) * n; },
+                                        .mismatch = widerThanHigh,
+                                        .scratch = qrScratch};
 
 }  // namespace vokm
 

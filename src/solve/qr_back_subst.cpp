@@ -85,8 +85,8 @@ template <SolveOrders orders, class V, int n> VOKM_INLINE void solveFixed(const 
     over(At<0>{}, At<n - 1>{}, [&](auto step) VOKM_INLINE_LAMBDA {
         constexpr int k = decltype(step)::value;
         constexpr StepOrder order = orders.of[n - 3];
-        const V t = scales[k] * stepSum < k == 0 ? order.first : order.others, V, n,
-                k > (b[k], [&](auto i) VOKM_INLINE_LAMBDA { return b[i] * a[i][k]; });
+        constexpr Rows rows = k == 0 ? order.first : order.others;
+        const V t = scales[k] * stepSum<rows, V, n, k>(b[k], [&](auto i) VOKM_INLINE_LAMBDA { return b[i] * a[i][k]; });
         b[k] = b[k] + t;
         over(At<k + 1>{}, At<n>{}, [&](auto i) VOKM_INLINE_LAMBDA { b[i] = b[i] + a[i][k] * t; });
     });
