@@ -397,6 +397,26 @@ template <class View> struct PlanarView {
 template <class View> constexpr bool isPlanarView = false;
 template <class View> constexpr bool isPlanarView<PlanarView<View>> = true;
 
+/// Whether no plane of `count` results touches a plane of a source, or another one of the results. Single operands are read
+/// before the loop.
+template <int K, int M, class S, class D>
+VOKM_INLINE bool lanesApart(const PlaneLanes<K, S>& src, const PlaneLanes<M, D>& dst, i32 count)
+{
+    using Address = std::uintptr_t;
+    const Address bytes = Address(count) * sizeof(typename D::element);
+    const auto apart = [bytes](const void* a, const void* b) VOKM_INLINE_LAMBDA {
+        return reinterpret_cast<Address>(a) - reinterpret_cast<Address>(b) + bytes - 1 > 2 * bytes - 2;
+    };
+    bool all = true;
+    for (int m = 0; m < M; ++m) {
+        if constexpr (S::array) {
+            for (int k = 0; k < K; ++k) all &= apart(dst.of[m], src.of[k]);
+        }
+        for (int other = 0; other < m; ++other) all &= apart(dst.of[m], dst.of[other]);
+    }
+    return all;
+}
+
 /// Whether the objects of K elements follow one another without a gap.
 template <int K, class View> VOKM_INLINE bool packedObjects(const View& view)
 {

@@ -4,6 +4,7 @@
 #include "../frame/along.h"
 #include "../frame/fixed.h"
 #include "../frame/overlap.h"
+#include "../frame/wide_pack.h"
 
 namespace vokm {
 
@@ -18,17 +19,36 @@ template <class T, class A, class B, class D> VOKM_INLINE vokStatus crossProduct
 {
     constexpr Shape three{1, 3};
     if constexpr (mayBePlanar<D>) {
-        if (count >= 32 && planar(dst) && (!A::array || planar(src1)) && (!B::array || planar(src2)) &&
-            planesApart(Shaped<D>{dst, three}, count) && wholesApart(count, Shaped<D>{dst, three}, Shaped<A>{src1, three}) &&
-            wholesApart(count, Shaped<D>{dst, three}, Shaped<B>{src2, three})) {
-            along(count,
-                [x = PlaneLanes<3, A>(src1), y = PlaneLanes<3, B>(src2), to = PlaneLanes<3, D>(dst)](i64 i) VOKM_INLINE_LAMBDA {
+        if (count >= 32 && planar(dst) && (!A::array || planar(src1)) && (!B::array || planar(src2))) {
+            const PlaneLanes<3, A> x(src1);
+            const PlaneLanes<3, B> y(src2);
+            const PlaneLanes<3, D> to(dst);
+            if (lanesApart(x, to, count) && lanesApart(y, to, count)) {
+                along(count, [x, y, to](i64 i) VOKM_INLINE_LAMBDA {
                     const T a[1][3] = {{x(0, i), x(1, i), x(2, i)}}, b[1][3] = {{y(0, i), y(1, i), y(2, i)}};
                     T d[1][3];
                     cross(a, b, d);
                     for (int k = 0; k < 3; ++k) to(k, i) = d[0][k];
                 });
-            return vokStatusOk;
+                return vokStatusOk;
+            }
+        }
+    }
+    if constexpr (D::array && D::dense && requires { dst.stride0; }) {
+        constexpr i32 N = wideLanes<T>;
+        if (widestRegisters && count >= N && packedObjects<3>(dst) && (!A::array || packedObjects<3>(src1)) &&
+            (!B::array || packedObjects<3>(src2)) && wholesApart(count, Shaped<D>{dst, three}, Shaped<A>{src1, three}) &&
+            wholesApart(count, Shaped<D>{dst, three}, Shaped<B>{src2, three})) {
+            packsWide(count / N, [x = WideRuns<3, A>(src1), y = WideRuns<3, B>(src2), to = dst.base](i64 p) VOKM_INLINE_LAMBDA {
+                WidePack<T> a[1][3]{}, b[1][3]{}, d[1][3];
+                x(a[0], p);
+                y(b[0], p);
+                cross(a, b, d);
+                storeWide<3>(d[0], to + p * (3 * N));
+            });
+            const i32 done = count / N * N;
+            src1 = src1.from(done), src2 = src2.from(done), dst = dst.from(done);
+            count -= done;
         }
     }
     const bool packs = count >= packLanes<T>;

@@ -34,6 +34,15 @@ VOKM_INLINE vokStatus normsOf(const A& src, const Packed<T>& dst, i32 n, i32 cou
                                    });
 }
 
+/// The sums alone, at the lengths with an order of their own.
+template <Variant variant, class A, class T> VOKM_INLINE void sumsOf(const A& src, const Packed<T>& dst, i32 n, i32 count)
+{
+    const auto same = [](auto s) VOKM_INLINE_LAMBDA { return s; };
+    reduce<normVa64, variant, T>(Squares<A>{src}, dst, n, count, 0, same, same, [](const auto& terms, i32 i, i32 length) {
+        return risingSum<T>(terms, i, length);
+    });
+}
+
 template <Variant variant, class A, class T> VOKM_INLINE vokStatus norm(const A& src, const Packed<T>& dst, const Sizes<1>& sizes)
 {
     return normsOf<normV, variant>(src, dst, sizes[0], 1, 0);
@@ -45,6 +54,17 @@ VOKM_INLINE vokStatus norms(const A& src, const Packed<T>& dst, const Sizes<1>& 
     if constexpr (sizeof(T) == 4 && (variant == Variant::plain || variant == Variant::L)) {
         return normsOf<normVa, variant>(src, dst, sizes[0], count.n, count.n & ~3);
     } else {
+        if constexpr (variant == Variant::plain) {
+            // Roots wait for one another in narrow registers, so they are taken behind the sums, a block in the cache at a time.
+            if (wideRegisters && sizes[0] >= 3 && sizes[0] <= 6 && count.n >= 64 && apartFrom(src, sizes[0], count.n, dst.base)) {
+                for (i32 start = 0; start < count.n; start += 512) {
+                    const i32 n = std::min(512, count.n - start);
+                    sumsOf<variant>(src.from(start), dst.from(start), sizes[0], n);
+                    along(n, [d = dst.base + start](i64 i) VOKM_INLINE_LAMBDA { d[i] = root(d[i]); });
+                }
+                return vokStatusOk;
+            }
+        }
         return normsOf<normVa64, variant>(src, dst, sizes[0], count.n, 0);
     }
 }

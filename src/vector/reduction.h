@@ -77,10 +77,10 @@ template <class A, class B> struct Products {
     }
     Products from(i32 start) const { return {a.from(start), b.from(start)}; }
     /// Whether all arrays have a plane for each element, apart from the results.
-    template <class D> VOKM_INLINE bool planes(const Shaped<D>& dst, i32 count, i32 n) const
+    template <int n, class D> VOKM_INLINE bool planes(const D& dst, i32 count) const
     {
-        return planar(a) && (!B::array || planar(b)) && wholesApart(count, dst, Shaped<A>{a, {1, n}}) &&
-               wholesApart(count, dst, Shaped<B>{b, {1, n}});
+        return planar(a) && (!B::array || planar(b)) && lanesApart(PlaneLanes<n, A>(a), dst, count) &&
+               lanesApart(PlaneLanes<n, B>(b), dst, count);
     }
     template <int n> VOKM_INLINE auto alongPlanes() const
     {
@@ -127,9 +127,9 @@ template <class A> struct Squares {
     {
         return packGuard(count, Shaped<D>{dst, {1, 1}}, Shaped<A>{a, {1, n}});
     }
-    template <class D> VOKM_INLINE bool planes(const Shaped<D>& dst, i32 count, i32 n) const
+    template <int n, class D> VOKM_INLINE bool planes(const D& dst, i32 count) const
     {
-        return planar(a) && wholesApart(count, dst, Shaped<A>{a, {1, n}});
+        return planar(a) && lanesApart(PlaneLanes<n, A>(a), dst, count);
     }
     template <int n> VOKM_INLINE auto alongPlanes() const
     {
@@ -200,7 +200,7 @@ VOKM_INLINE vokStatus reduce(
         }
         const StrideView<T, Code::va> results(dst.base, sizeof(T), 0, sizeof(T));
         if constexpr (Terms::mayBePlanes) {
-            if (count >= 32 && terms.planes(Shaped<StrideView<T, Code::va>>{results, {1, 1}}, count, k)) {
+            if (count >= 32 && terms.template planes<k>(PlaneLanes<1, StrideView<T, Code::va>>(results), count)) {
                 along(count, [d = dst.base, term = terms.template alongPlanes<k>(), finish](i64 i) VOKM_INLINE_LAMBDA {
                     T p[decltype(length)::value];
                     for (int j = 0; j < decltype(length)::value; ++j) p[j] = term(j, i);
