@@ -61,12 +61,16 @@ inline constexpr Row rowMulMm = ProductForm<Code::m, Code::m>::row(), rowMulMt =
                      rowMulMama = ProductForm<Code::ma, Code::ma>::row(), rowMulMata = ProductForm<Code::ma, Code::ta>::row(),
                      rowMulTama = ProductForm<Code::ta, Code::ma>::row(), rowMulTata = ProductForm<Code::ta, Code::ta>::row();
 
-/// How a product of square matrices of size n goes: by rows in registers, or by tiles, several objects a pack where they may.
-enum class Way { rows, tiles };
+/// How a product of square matrices of size n goes.
+enum class Way {
+    rows,      // contiguous rows: by rows in registers, one object after another
+    tiles,     // contiguous rows: several objects a pack where they may
+    elements,  // anything else: row by row, several objects a pack where they may
+};
 template <class T, int n, class D> constexpr Way wayOf()
 {
-    if (!D::dense) return Way::tiles;
-    return D::array && n == 3 && sizeof(T) == 4 ? Way::tiles : Way::rows;
+    if (!D::dense) return Way::elements;
+    return D::array && !isList<D> && n == 3 && sizeof(T) == 4 ? Way::tiles : Way::rows;
 }
 
 template <class D> VOKM_INLINE bool rowsOverlap(const D& dst, int n)
@@ -107,8 +111,10 @@ VOKM_INLINE vokStatus matrixProducts(A a, B b, D dst, const i32* sizes, i32 coun
         const Operands<n, A, B, NoAddend, D> of{a, b, NoAddend{}, dst};
         if constexpr (wayOf<T, n, D>() == Way::rows) {
             productsOfRows<order>(of, count);
-        } else {
+        } else if constexpr (wayOf<T, n, D>() == Way::tiles) {
             productsOfTiles<order>(of, count);
+        } else {
+            productsRowByRow<order>(of, count);
         }
         return vokStatusOk;
     };

@@ -74,8 +74,10 @@ VOKM_INLINE vokStatus matrixVectors(A a, B b, C c, D dst, const i32* sizes, i32 
             productsOfColumns<order>(of, count);
         } else if constexpr (way == VectorWay::dots) {
             productsOfDots<order>(of, count);
-        } else {
+        } else if constexpr (way == VectorWay::tiles) {
             productsOfTiles<order>(of, count);
+        } else {
+            productsRowByRow<order>(of, count);
         }
         return vokStatusOk;
     };

@@ -59,12 +59,6 @@ template <Order order, class V, int n, int m> VOKM_INLINE void multiply(const V 
         }
     }
 }
-/// The same, shared by the kernels that spend more on gathering elements than on a call.
-template <Order order, class V, int n, int m> [[gnu::noinline]] void multiplyAside(const V (&x)[n][n], const V (&y)[m][n], V (&d)[m][n])
-{
-    multiply<order>(x, y, d);
-}
-
 /// No third operand.
 struct NoAddend {
     static constexpr bool array = true, dense = true;
@@ -170,7 +164,7 @@ template <int n, class A, class B, class C, class D> struct HeldOperands {
     VOKM_INLINE HeldOperands(const Of& of, bool packs) : a(of.a, packs), b(of.b, packs), c(of.c, packs) {}
 };
 
-/// Object i, or the pack of objects from i on.
+/// Object i, or the pack of objects from i on, in whole tiles.
 template <Order order, class V, int n, class A, class B, class C, class D, class Held>
 VOKM_INLINE void productOfTiles(const Operands<n, A, B, C, D>& of, const Held& held, i32 i)
 {
@@ -178,11 +172,7 @@ VOKM_INLINE void productOfTiles(const Operands<n, A, B, C, D>& of, const Held& h
     V x[n][n], y[m][n], d[m][n];
     loadOrHeld(x, of.a, held.a, i);
     loadOrHeld(y, of.b, held.b, i);
-    if constexpr (D::dense || n == 3) {
-        multiply<order>(x, y, d);
-    } else {
-        multiplyAside<order>(x, y, d);
-    }
+    multiply<order>(x, y, d);
     if constexpr (isAddend<C>) {
         V z[1][n];
         loadOrHeld(z, of.c, held.c, i);
@@ -191,32 +181,43 @@ VOKM_INLINE void productOfTiles(const Operands<n, A, B, C, D>& of, const Held& h
     store(d, of.d, i);
 }
 
-/// A pack of matrices over planes, row by row. `streamed`: a row is stored before the next one of `a` is read, which must not
-/// lie where it is stored.
-template <Order order, class V, bool streamed, int n, class A, class B, class C, class D, class Held>
-VOKM_INLINE void productOfPlanes(const Operands<n, A, B, C, D>& of, const Held& held, i32 i)
+/// One element of object i, or of the pack from i on, or of the held single operand.
+template <class V, class View, class H>
+VOKM_INLINE V elementOrHeld(const View& view, const H& held, i32 i, Shape shape, int r, int c)
 {
-    V y[n][n], d[n][n];
-    loadOrHeld(y, of.b, held.b, i);
-    const auto x = of.a.object(i, of.square);
-    const auto z = of.d.object(i, of.square);
+    if constexpr (!View::array) {
+        return held.template at<V>(r, c);
+    } else if constexpr (isPlanarView<View>) {
+        return loadLanes<V>(&view.object(i, shape)(r, c));
+    } else if constexpr (isPack<V>) {
+        return gather<V>(view, i, shape, r, c);
+    } else {
+        return view.object(i, shape)(r, c);
+    }
+}
+
+/// The same for elements that are loaded one by one: a row of `a` at a time. `streamed`: over planes, a row of the result is
+/// stored before the next one of `a` is read, which must not lie where it is stored.
+template <Order order, class V, bool streamed, int n, class A, class B, class C, class D, class Held>
+VOKM_INLINE void productRowByRow(const Operands<n, A, B, C, D>& of, const Held& held, i32 i)
+{
+    constexpr int m = isMatrix(B::code) ? n : 1;
+    V y[m][n], d[m][n];
+    for (int r = 0; r < m; ++r) {
+        for (int k = 0; k < n; ++k) y[r][k] = elementOrHeld<V>(of.b, held.b, i, of.other, r, k);
+    }
     for (int r = 0, end = n > 3 ? rolled(n) : n; r < end; ++r) {
         V row[n];
-        for (int k = 0; k < n; ++k) {
-            if constexpr (A::array) {
-                row[k] = loadLanes<V>(&x(r, k));
-            } else {
-                row[k] = held.a.template at<V>(r, k);
-            }
-        }
-        for (int c = 0; c < n; ++c) {
+        for (int k = 0; k < n; ++k) row[k] = elementOrHeld<V>(of.a, held.a, i, of.square, r, k);
+        for (int c = 0; c < m; ++c) {
             V p[n];
-            for (int k = 0; k < n; ++k) p[k] = row[k] * y[k][c];
-            const V s = settled(sumOfRow<order>(p, r));
+            for (int k = 0; k < n; ++k) p[k] = row[k] * (m == 1 ? y[0][k] : y[k][c]);
+            V s = settled(sumOfRow<order>(p, r));
+            if constexpr (isAddend<C>) s = s + elementOrHeld<V>(of.c, held.c, i, of.other, 0, r);
             if constexpr (streamed) {
-                storeLanes(&z(r, c), s);
+                storeLanes(&of.d.object(i, of.square)(r, c), s);
             } else {
-                d[r][c] = s;
+                (m == 1 ? d[0][r] : d[r][c]) = s;
             }
         }
     }
@@ -232,57 +233,57 @@ template <class Of, class Body> VOKM_INLINE void preferTight(const Of& of, Body 
     body(of);
 }
 
-/// A walk in packs where the order of the objects cannot be seen, else one by one; pack(i) does a pack.
-template <Order order, int n, class A, class B, class C, class D, class Held, class Guard, class DoPack>
-VOKM_INLINE void walkOfTiles(const Operands<n, A, B, C, D>& of, const Held& held, const Guard& guard, i32 count, DoPack pack)
-{
-    walkGuarded<typename D::element>(count, guard, [&](auto as, i32 i) VOKM_INLINE_LAMBDA {
-        using V = typename decltype(as)::type;
-        if constexpr (isPack<V>) {
-            pack(i);
-        } else {
-            productOfTiles<order, V>(of, held, i);
-        }
-    });
-}
-
-/// By tiles. Over planes, matrices go row by row.
+/// By tiles, for dense operands: in packs where the order of the objects cannot be seen, else one by one.
 template <Order order, int n, class A, class B, class C, class D>
 VOKM_INLINE void productsOfTiles(const Operands<n, A, B, C, D>& of, i32 count)
 {
     using T = typename D::element;
-    using V = Pack<T>;
     const HeldOperands<n, A, B, C, D> held(of, D::array && count >= packLanes<T>);
     if constexpr (!D::array) {
         productOfTiles<order, T>(of, held, 0);
     } else {
         const auto guard = of.guard(count);
-        const auto byTiles = [&](const auto& these) VOKM_INLINE_LAMBDA {
-            walkOfTiles<order>(these, held, guard, count, [&](i32 i) VOKM_INLINE_LAMBDA { productOfTiles<order, V>(these, held, i); });
-        };
-        if constexpr (D::dense) {
-            preferTight(of, byTiles);
-        } else {
-            const auto pins = of.asPinned();
-            if constexpr (!isList<D>) {
-                if (count >= packLanes<T> && pins.planes()) {
-                    const auto planes = pins.asPlanes();
-                    if constexpr (!isMatrix(B::code)) {
-                        byTiles(planes);
-                    } else if (separate(count, Shaped<D>{of.d, of.square}, Shaped<A>{of.a, of.square})) {
-                        walkOfTiles<order>(planes, held, guard, count, [&](i32 i) VOKM_INLINE_LAMBDA {
-                            productOfPlanes<order, V, true>(planes, held, i);
-                        });
-                    } else {
-                        walkOfTiles<order>(planes, held, guard, count, [&](i32 i) VOKM_INLINE_LAMBDA {
-                            productOfPlanes<order, V, false>(planes, held, i);
-                        });
-                    }
-                    return;
+        preferTight(of, [&](const auto& these) VOKM_INLINE_LAMBDA {
+            walkGuarded<T>(count, guard, [&](auto as, i32 i) VOKM_INLINE_LAMBDA {
+                productOfTiles<order, typename decltype(as)::type>(these, held, i);
+            });
+        });
+    }
+}
+
+/// Row by row, for operands of any stride and behind tables.
+template <Order order, int n, class A, class B, class C, class D>
+VOKM_INLINE void productsRowByRow(const Operands<n, A, B, C, D>& of, i32 count)
+{
+    using T = typename D::element;
+    using V = Pack<T>;
+    const HeldOperands<n, A, B, C, D> held(of, D::array && count >= packLanes<T>);
+    if constexpr (!D::array) {
+        productRowByRow<order, T, false>(of, held, 0);
+    } else {
+        const auto guard = of.guard(count);
+        const auto pins = of.asPinned();
+        const auto walk = [&](auto pack) VOKM_INLINE_LAMBDA {
+            walkGuarded<T>(count, guard, [&](auto as, i32 i) VOKM_INLINE_LAMBDA {
+                if constexpr (isPack<typename decltype(as)::type>) {
+                    pack(i);
+                } else {
+                    productRowByRow<order, T, false>(pins, held, i);
                 }
+            });
+        };
+        if constexpr (!isList<D>) {
+            if (count >= packLanes<T> && pins.planes()) {
+                const auto planes = pins.asPlanes();
+                if (isMatrix(B::code) && separate(count, Shaped<D>{of.d, of.other}, Shaped<A>{of.a, of.square})) {
+                    walk([&](i32 i) VOKM_INLINE_LAMBDA { productRowByRow<order, V, isMatrix(B::code)>(planes, held, i); });
+                } else {
+                    walk([&](i32 i) VOKM_INLINE_LAMBDA { productRowByRow<order, V, false>(planes, held, i); });
+                }
+                return;
             }
-            byTiles(pins);
         }
+        walk([&](i32 i) VOKM_INLINE_LAMBDA { productRowByRow<order, V, false>(pins, held, i); });
     }
 }
 

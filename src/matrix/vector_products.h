@@ -7,17 +7,20 @@
 
 namespace vokm {
 
-/// How a product of a matrix of size n and a vector goes.
+/// How a product of a matrix of size n and a vector goes. Objects of a list have addresses of their own each, so that a guard
+/// costs more than packs save: they go one by one.
 enum class VectorWay {
-    tiles,    // objects in lanes: packs where they may, else one by one
-    columns,  // rows in lanes, the columns of the single matrix in registers
-    dots,     // rows in lanes, turned from their products with the vector
+    tiles,     // contiguous rows: objects in lanes, packs where they may
+    columns,   // contiguous rows: rows in lanes, the columns of the single matrix in registers
+    dots,      // contiguous rows: rows in lanes, turned from their products with the vector
+    elements,  // anything else: row by row, packs where they may
 };
 template <class T, int n, class A, class D> constexpr VectorWay vectorWayOf()
 {
-    if (!D::dense || !D::array) return VectorWay::tiles;
-    if (!A::array) return (sizeof(T) == 4 ? n == 4 : n > 3) ? VectorWay::columns : VectorWay::tiles;
-    return isTransposed(A::code) || (n == 3 && sizeof(T) == 4) ? VectorWay::tiles : VectorWay::dots;
+    if (!D::dense) return VectorWay::elements;
+    if (!D::array) return VectorWay::tiles;
+    if (!A::array) return isList<D> || (sizeof(T) == 4 ? n == 4 : n > 3) ? VectorWay::columns : VectorWay::tiles;
+    return isTransposed(A::code) || (n == 3 && sizeof(T) == 4 && !isList<D>) ? VectorWay::tiles : VectorWay::dots;
 }
 
 template <Order order, int n, class A, class B, class C, class D>
@@ -80,6 +83,35 @@ template <Order order, int n, class Source> VOKM_INLINE auto sumsOfRows(const So
     }
 }
 
+/// The vector of object i; a single one is held.
+template <class Of, class Held> VOKM_INLINE auto vectorOf(const Of& of, const Held& held, i32 i)
+{
+    if constexpr (decltype(of.b)::array) {
+        return &of.b.object(i, of.other)(0, 0);
+    } else {
+        return &held.one[0][0];
+    }
+}
+
+/// One object; lanes without a row take the last one again.
+template <Order order, int n, class A, class B, class C, class D, class Held>
+VOKM_INLINE void objectOfDots(const Operands<n, A, B, C, D>& of, const Held& held, i32 i)
+{
+    using T = typename D::element;
+    constexpr int N = packLanes<T>;
+    const auto x = of.a.object(i, of.square);
+    RowRegisters<T, n> s;
+    for (int j = 0; j < s.size; ++j) {
+        FetchProducts<T> from;
+        for (int lane = 0; lane < N; ++lane) {
+            from.a.at[lane] = &x(j * N + lane < n ? j * N + lane : n - 1, 0);
+            from.b.at[lane] = vectorOf(of, held, i);
+        }
+        s.at[j] = settled(sumsOfRows<order, n>(from, j * N));
+    }
+    s.store(&of.d.object(i, of.other)(0, 0));
+}
+
 /// A pack of objects. Their rows fill registers one after another: whole registers of each object first, then the rows that
 /// are left over of all of them.
 template <Order order, int n, class A, class B, class C, class D, class Held>
@@ -87,19 +119,12 @@ VOKM_INLINE void packOfDots(const Operands<n, A, B, C, D>& of, const Held& held,
 {
     using T = typename D::element;
     constexpr int N = packLanes<T>, full = n / N, rest = n % N, share = rest > 0 ? rest : 1;
-    const auto vector = [&](int object) VOKM_INLINE_LAMBDA -> const T* {
-        if constexpr (B::array) {
-            return &of.b.object(i + object, of.other)(0, 0);
-        } else {
-            return held.one[0];
-        }
-    };
     // The sums of N rows; object(lane), row(lane) say which.
     const auto dots = [&](int first, auto object, auto row) VOKM_INLINE_LAMBDA {
         FetchProducts<T> from;
         for (int lane = 0; lane < N; ++lane) {
             from.a.at[lane] = &of.a.object(i + object(lane), of.square)(row(lane), 0);
-            from.b.at[lane] = vector(object(lane));
+            from.b.at[lane] = vectorOf(of, held, i + object(lane));
         }
         return settled(sumsOfRows<order, n>(from, first));
     };
@@ -137,17 +162,20 @@ VOKM_INLINE void productsOfDots(const Operands<n, A, B, C, D>& of, i32 count)
 {
     using T = typename D::element;
     const HeldOperands<n, A, B, C, D> held(of, false);
-    const auto guard = of.guard(count);
-    preferTight(of, [&](const auto& these) VOKM_INLINE_LAMBDA {
-        walkGuarded<T>(count, guard, [&](auto as, i32 i) VOKM_INLINE_LAMBDA {
-            using V = typename decltype(as)::type;
-            if constexpr (isPack<V>) {
-                packOfDots<order>(these, held.b, i);
-            } else {
-                productOfTiles<order, V>(these, held, i);
-            }
+    if constexpr (isList<D>) {
+        for (i32 i = 0; i < count; ++i) objectOfDots<order>(of, held.b, i);
+    } else {
+        const auto guard = of.guard(count);
+        preferTight(of, [&](const auto& these) VOKM_INLINE_LAMBDA {
+            walkGuarded<T>(count, guard, [&](auto as, i32 i) VOKM_INLINE_LAMBDA {
+                if constexpr (isPack<typename decltype(as)::type>) {
+                    packOfDots<order>(these, held.b, i);
+                } else {
+                    objectOfDots<order>(these, held.b, i);
+                }
+            });
         });
-    });
+    }
 }
 
 }  // namespace vokm
