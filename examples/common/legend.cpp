@@ -125,7 +125,7 @@ void drawLegend(Image& image, const Ramp& ramp, const std::string& title, float 
     for (int x = 0; x < width; ++x)
         for (int y = 0; y < thick; ++y)
             image.at(left + x, top + bar + y) = ramp.at((static_cast<float>(x) + 0.5f) / static_cast<float>(width));
-    const float step = roundStep(high - low, width / 80);  // the numbers have room
+    const float step = roundStep(high - low, std::max(1, width / 80));  // the numbers have room
     const int decimals = std::max(0, static_cast<int>(std::ceil(-std::log10(step) - 1e-3f)));
     for (float k = std::ceil(low / step - 1e-3f); k * step <= high + 1e-3f * step; ++k) {
         char number[32];

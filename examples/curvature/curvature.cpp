@@ -21,7 +21,7 @@ namespace {
 void drawPicture(const std::string& input, const std::filesystem::path& directory)
 {
     const AscGrid grid = readAscGrid(input);
-    const int detail = std::clamp(690 / (std::max(grid.columns, grid.rows) - 1), 1, 32), margin = marginOf(detail);
+    const int detail = std::clamp(690 / (std::max(grid.columns, grid.rows) - 1), 1, 64), margin = marginOf(detail);
     const Terrain terrain(grid.widened(reach), detail);
     if (terrain.exaggeration < 0.02)
         throw std::runtime_error(input + ":" + std::to_string(grid.cellsizeLine) +

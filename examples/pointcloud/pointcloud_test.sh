@@ -10,7 +10,8 @@ head='ply\nformat ascii 1.0\ncomment made by hand\n'
 xyz='property float x\nproperty float y\nproperty float z\n'
 good "ascii PLY with other elements and lists" "4 points" < <(printf "%b" "$head" \
     'element camera 2\nproperty list uchar int views\nproperty float f\nelement vertex 4\nproperty uchar red\n' "$xyz" \
-    'element face 1\nproperty list uchar int vertex_indices\nend_header\n3 7 8 9 0.5\n0 1\n9 0 0 0\n9 1 0 0\n9 0 1 0\n9 1 1 1\n3 0 1 2\n')
+    'element face 1\nproperty list uchar int vertex_indices\nend_header\n' '3 7 8 9 0.5\n0 1\n' \
+    '9 0 0 0\n9 1 0 0\n9 0 1 0\n9 1 1 1\n3 0 1 2\n')
 corner='\0\0\0\0' one='\0\0\x80\x3f'
 binary='ply\nformat binary_little_endian 1.0\nelement vertex 4\nproperty list uchar short seen\n'"$xyz"'end_header\n'
 good "binary PLY" "4 points" < <(printf '%b' "$binary" "\2\1\1\2\2$corner$corner$corner" "\0$one$corner$corner" \
