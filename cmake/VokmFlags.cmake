@@ -13,7 +13,7 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
 add_library(vokm_warnings INTERFACE)
 target_compile_options(vokm_warnings INTERFACE -Wall -Wextra -Wshadow
-    $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-Wno-restrict -Wno-maybe-uninitialized>    # g++ 12 cries wolf over std::string
+    $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-Wno-restrict -Wno-maybe-uninitialized -Wno-psabi>    # g++ 12 cries wolf over std::string
     $<$<BOOL:${VOKM_WERROR}>:-Werror>)
 
 add_library(vokm_flags INTERFACE)

@@ -15,7 +15,9 @@
 
 namespace vokm {
 
-inline const bool wideRegisters = __builtin_cpu_supports("avx2") != 0, widestRegisters = __builtin_cpu_supports("avx512f") != 0;
+// Asked anew each time, a test of one word: the library has no state.
+VOKM_INLINE bool wideRegisters() { return __builtin_cpu_supports("avx2"); }
+VOKM_INLINE bool widestRegisters() { return __builtin_cpu_supports("avx512f"); }
 
 #ifdef __clang__
 #define VOKM_WIDEST "avx512f"
@@ -36,8 +38,8 @@ template <class Step> [[gnu::target(VOKM_WIDEST), VOKM_OUT_OF_LINE]] void alongW
 /// independent of one another.
 template <class Step> VOKM_INLINE void along(i64 n, Step step)
 {
-    if (n >= 64 && widestRegisters) return alongWidest(n, step);
-    if (n >= 32 && wideRegisters) return alongWide(n, step);
+    if (n >= 64 && widestRegisters()) return alongWidest(n, step);
+    if (n >= 32 && wideRegisters()) return alongWide(n, step);
     VOKM_INDEPENDENT for (i64 j = 0; j < n; ++j) step(j);
 }
 

@@ -3,6 +3,7 @@
 
 #include "general_products.h"
 #include "vector_products.h"
+#include "wide_products.h"
 
 namespace vokm {
 
@@ -67,6 +68,13 @@ VOKM_INLINE vokStatus matrixVectors(A a, B b, C c, D dst, const i32* sizes, i32 
         constexpr int n = decltype(size)::value;
         if constexpr (n == 3 && A::code == Code::ta && B::array && variant == Variant::plain && sizeof(T) == 4) {
             if (goesInTwos(a, b, dst)) count += count & 1;
+        }
+        if constexpr (!A::array && D::array && D::dense && requires { b.stride0; dst.stride0; }) {
+            const i32 done = leadingProducts<order>(Operands<n, A, B, C, D>{a, b, c, dst}, count);
+            if (done == count) return vokStatusOk;
+            b = b.from(done), dst = dst.from(done);
+            if constexpr (isAddend<C>) c = c.from(done);
+            count -= done;
         }
         const Operands<n, A, B, C, D> of{a, b, c, dst};
         constexpr VectorWay way = vectorWayOf<T, n, A, D>();

@@ -36,7 +36,7 @@ template <class T, class A, class B, class D> VOKM_INLINE vokStatus crossProduct
     }
     if constexpr (D::array && D::dense && requires { dst.stride0; }) {
         constexpr i32 N = wideLanes<T>;
-        if (widestRegisters && count >= N && packedObjects<3>(dst) && (!A::array || packedObjects<3>(src1)) &&
+        if (widestRegisters() && count >= N && packedObjects<3>(dst) && (!A::array || packedObjects<3>(src1)) &&
             (!B::array || packedObjects<3>(src2)) && wholesApart(count, Shaped<D>{dst, three}, Shaped<A>{src1, three}) &&
             wholesApart(count, Shaped<D>{dst, three}, Shaped<B>{src2, three})) {
             packsWide(count / N, [x = WideRuns<3, A>(src1), y = WideRuns<3, B>(src2), to = dst.base](i64 p) VOKM_INLINE_LAMBDA {

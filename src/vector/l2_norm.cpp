@@ -56,7 +56,7 @@ VOKM_INLINE vokStatus norms(const A& src, const Packed<T>& dst, const Sizes<1>& 
     } else {
         if constexpr (variant == Variant::plain) {
             // Roots wait for one another in narrow registers, so they are taken behind the sums, a block in the cache at a time.
-            if (wideRegisters && sizes[0] >= 3 && sizes[0] <= 6 && count.n >= 64 && apartFrom(src, sizes[0], count.n, dst.base)) {
+            if (wideRegisters() && sizes[0] >= 3 && sizes[0] <= 6 && count.n >= 64 && apartFrom(src, sizes[0], count.n, dst.base)) {
                 for (i32 start = 0; start < count.n; start += 512) {
                     const i32 n = std::min(512, count.n - start);
                     sumsOf<variant>(src.from(start), dst.from(start), sizes[0], n);

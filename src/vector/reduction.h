@@ -69,7 +69,7 @@ template <class A, class B> struct Products {
                           a.stride0;
                           b.stride0;
                       }) {
-            if (wideRegisters && count >= 8 && apartFrom(a, n, count, dst) && apartFrom(b, n, count, dst)) {
+            if (wideRegisters() && count >= 8 && apartFrom(a, n, count, dst) && apartFrom(b, n, count, dst)) {
                 return wideSums<order, n>(a, b, dst, count);
             }
         }

@@ -341,8 +341,24 @@ private:
         return !(double(limit) * (dense && !single ? 2 : 1) > magnitude(det));
     }
 
+    // At size 4 even what is multiplied with what is free: where some order may overflow, so is the result.
+    bool mayOverflow(const Grid<Bounded<T>>& a) const
+    {
+        double largest = 0;
+        for (int e = 0; e < n * n; ++e) {
+            largest = std::max(largest, magnitude(a(e / n, e % n).value));
+        }
+        return !(std::pow(largest, n) * 1000 < double(std::numeric_limits<T>::max()));
+    }
+
     Outcome laplace(const Grid<Bounded<T>>& a, double limitOfForm)
     {
+        if (n == 4 && mayOverflow(a)) {
+            for (int e = 0; e < n * n; ++e) {
+                inverse(e / n, e % n) = {0, HUGE_VAL};
+            }
+            return unclear;
+        }
         Bounded<T> det = minors(a, allBut(n, -1)).back(), r = reciprocal(det);
         for (int j = 0; j < n; ++j) {
             std::vector<Bounded<T>> minor = minors(a, allBut(n, j));
