@@ -17,7 +17,7 @@ enum class Exit { none, quiet, failure };  // a block system too small to solve 
 
 template <class T> struct Vectors {
     Vectors(Schur<T>& form, bool leftVectors, unsigned disturbance)
-        : s(form), n(form.n), left(leftVectors), t(n, n), z(n, n), columns(n, Column(n)), phase(n)
+        : s(form), n(form.n), left(leftVectors), t(n, n), z(n, n), columns(n, Column(n)), phase(n), repeated(n)
     {
         std::mt19937 random(disturbance);
         auto error = [&] { return disturbance ? Wide(Schur<T>::eps) * (Wide(random() % 1001) / 125 - 4) : 0; };
@@ -25,6 +25,7 @@ template <class T> struct Vectors {
             for (int j = 0; j < n; ++j) {
                 t(i, j) = Wide(s.h(i + 1, j + 1)) * (1 + error());
                 z(i, j) = Wide(s.z(i + 1, j + 1)) + error();
+                largest = std::max(largest, std::fabs(t(i, j)));
             }
         }
     }
@@ -55,6 +56,29 @@ template <class T> struct Vectors {
         Wide second = 0;    // the next largest component's share of it
     };
     std::vector<Phase> phase;
+    std::vector<bool> repeated;  // another eigenvalue is as good as equal: a component may be anything over nearly nothing
+    Wide largest = 0;
+
+    // How well any unit vector solves the equation of the eigenvalue at j.
+    bool solvedBy(const Column& x, int j, bool pair) const
+    {
+        const Complex w(s.re[j], pair ? (left ? -s.im[j] : s.im[j]) : T(0));
+        Column y(n);
+        for (int k = 0; k < n; ++k) {
+            for (int i = 0; i < n; ++i) {
+                y[k] += z(i, k) * x[i];
+            }
+        }
+        Wide worst = 0;
+        for (int i = 0; i < n; ++i) {
+            Complex rest = -w * y[i];
+            for (int k = 0; k < n; ++k) {
+                rest += (left ? t(k, i) : t(i, k)) * y[k];
+            }
+            worst = std::abs(rest) <= worst ? worst : std::abs(rest);
+        }
+        return worst <= 100 * (n + 4) * Wide(Schur<T>::eps) * largest;
+    }
 
 private:
     // Of the eigenvalue at ki, or at ki and ki+1; right vectors fill upwards, left ones downwards with T transposed.
@@ -107,7 +131,10 @@ private:
             return sum;
         };
         auto size = [](Complex v) { return std::fabs(v.real()) + std::fabs(v.imag()); };
-        auto atLeast = [&](Complex v) { return size(v) < smini ? Complex(smini) : v; };
+        auto atLeast = [&](Complex v) {
+            repeated[ki] = repeated[ki] || size(v) <= 64 * Wide(Schur<T>::eps) * largest;
+            return size(v) < smini ? Complex(smini) : v;
+        };
         if (!two) {
             x[from] = right(from) / atLeast(entry(from, from) - w);
             return Exit::none;
@@ -177,14 +204,15 @@ public:
             if (both) {
                 results = {{"dstRight", false}, {"dstLeft", true}};
             }
+            std::vector<Vectors<T>> wanted;
             for (auto& [name, isLeft] : results) {
-                Exit exit = Vectors<T>(schur, isLeft, 0).run();
+                Exit exit = wanted.emplace_back(schur, isLeft, 0).run();
                 if (exit != Exit::none) {
                     return exit == Exit::quiet ? 0 : -2;
                 }
             }
-            for (auto& [name, isLeft] : results) {
-                settle(schur, isLeft, i, m.view(name), m.answer(name), ordinary(Grid<T>(m.view("src"), i)));
+            for (size_t at = 0; at < results.size(); ++at) {
+                settle(schur, wanted[at], i, results[at].first, ordinary(Grid<T>(m.view("src"), i)));
             }
         }
         return 0;
@@ -202,10 +230,9 @@ private:
         return all;
     }
 
-    void settle(Schur<T>& schur, bool left, int object, View<T> dst, View<T> answer, bool judged)
+    void settle(Schur<T>& schur, const Vectors<T>& wanted, int object, const std::string& name, bool judged)
     {
-        Vectors<T> wanted(schur, left, 0);
-        wanted.run();
+        View<T> dst = m.view(name), answer = m.answer(name);
         std::vector<Vectors<T>> others;  // made when they are needed
         for (int j = 0; j < schur.n; ++j) {
             bool pair = j < schur.n - 1 && wanted.linked(j + 1);
@@ -216,11 +243,12 @@ private:
             bool right = !judged || agrees(wanted, j, pair, got, 0);
             for (unsigned disturbance = 1; disturbance <= 3 && !right; ++disturbance) {
                 if (others.size() < disturbance) {
-                    others.emplace_back(schur, left, disturbance).run();
+                    others.emplace_back(schur, wanted.left, disturbance).run();
                 }
                 Wide apart = between(wanted.columns[j], others[disturbance - 1].columns[j], pair);
                 right = !std::isfinite(apart) || agrees(wanted, j, pair, got, apart);
             }
+            right = right || (wanted.repeated[j] && isUnit(got) && wanted.solvedBy(got, j, pair));
             for (int i = 0; i < schur.n; ++i) {
                 Complex value = right ? got[i] : wanted.columns[j][i];
                 dst.set(object, i, j, T(value.real()));
@@ -256,16 +284,22 @@ private:
         return pair ? distance(a, b, turnBetween(a, b)) : distance(a, b);
     }
 
+    static bool isUnit(const Column& x)
+    {
+        Wide norm = 0;
+        for (const Complex& entry : x) {
+            norm += std::norm(entry);
+        }
+        return std::fabs(norm - 1) <= 64 * Wide(Schur<T>::eps) * Wide(x.size() + 4);
+    }
+
     // `apart` is how far errors of rounding take the vector.
     static bool agrees(const Vectors<T>& wanted, int j, bool pair, const Column& got, Wide apart)
     {
         const Column& x = wanted.columns[j];
         const Wide floor = 64 * Wide(Schur<T>::eps) * (wanted.n + 4), error = 200 * apart + floor;
-        Wide doubt = 0, norm = 0;
-        for (const Complex& entry : got) {
-            norm += std::norm(entry);
-        }
-        if (!(std::fabs(norm - 1) <= floor)) {
+        Wide doubt = 0;
+        if (!isUnit(got)) {
             return false;
         }
         if (pair) {  // which component is made real, and its sign, may hang on rounding
