@@ -488,6 +488,9 @@ int main(int argc, char** argv) {
 #ifdef BENCH_XSMM
     bench::gather("xsmm", benchXsmm);
 #endif
+#ifdef BENCH_GLM
+    bench::gather("glm", benchGlm);
+#endif
     bench::registerRows();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;

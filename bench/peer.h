@@ -35,4 +35,5 @@ void benchEigenNative(bench::Add);
 void benchPlain(bench::Add);
 void benchLapack(bench::Add);
 void benchXsmm(bench::Add);
+void benchGlm(bench::Add);
 }
