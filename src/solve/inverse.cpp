@@ -9,7 +9,7 @@ namespace vokm {
 
 /// A method for packs and single objects that works on a tile: nothing is stored unless it succeeds.
 template <class Tiled, int n> struct OnTile : Tiled {
-    template <class S, class D> [[gnu::noinline]] static vokStatus one(S src, D dst)
+    template <class S, class D> VOKM_INLINE static vokStatus one(const S& src, const D& dst)
     {
         using T = std::decay_t<decltype(dst(0, 0))>;
         T a[n][n];
@@ -55,7 +55,7 @@ struct ByCramer {
     {
         for (int r = 0; r < 4; ++r) storeLanes(&dst(r, 0), row[r]);
     }
-    template <class S, class D> [[gnu::noinline]] static vokStatus one(S src, D dst)
+    template <class S, class D> VOKM_INLINE static vokStatus one(const S& src, const D& dst)
     {
         Pack<float> row[4];
         if (!rows(src, row)) return vokStatusSingular;
@@ -63,7 +63,7 @@ struct ByCramer {
         return vokStatusOk;
     }
     /// Two objects: both are tested before either is stored.
-    template <class S, class D> [[gnu::noinline]] static vokStatus two(S src, S nextSrc, D dst, D nextDst)
+    template <class S, class D> VOKM_INLINE static vokStatus two(const S& src, const S& nextSrc, const D& dst, const D& nextDst)
     {
         Pack<float> row[4], nextRow[4];
         if (!rows(src, row) || !rows(nextSrc, nextRow)) return vokStatusSingular;
@@ -113,7 +113,7 @@ template <int h> struct ByBorders {
             for (int c = 0; c < n; ++c) dst(1, c) = top[h - 1][c] = src(1, c == 0 ? search.won : c == search.won ? 0 : c);
         }
     };
-    template <class S, class D> [[gnu::noinline]] static vokStatus one(S src, D dst)
+    template <class S, class D> VOKM_INLINE static vokStatus one(const S& src, const D& dst)
     {
         Bordered<Pack<float>, h> m;
         loadColumns<h>(m.column, src);
@@ -147,6 +147,45 @@ template <class T, Variant variant, bool array>
 using MethodsOf = std::conditional_t<variant != Variant::plain && variant != Variant::L, AnyStride,
     std::conditional_t<sizeof(T) == 8, Dense64, std::conditional_t<array && variant == Variant::plain, ArrayDense32, OneDense32>>>;
 
+}  // namespace vokm
+
+// The routines of one size for dense rows under their documented names.
+#define INVERT_SIZE(ty, T, suffix, Method)                                                                                 \
+    extern "C" VOKM_NAMED ownvokmInvert_m_##ty##suffix(vokm::DenseObject<const T> src, vokm::DenseObject<T> dst)           \
+    {                                                                                                                      \
+        return vokm::Method::one(src, dst);                                                                                \
+    }                                                                                                                      \
+    namespace vokm {                                                                                                       \
+    inline vokStatus named(Method, DenseObject<const T> src, DenseObject<T> dst) { return ownvokmInvert_m_##ty##suffix(src, dst); } \
+    }
+INVERT_SIZE(32f, float, _3x3, OneDense32::of<3>)
+INVERT_SIZE(32f, float, _4x4, OneDense32::of<4>)
+INVERT_SIZE(32f, float, _5x5, OneDense32::of<5>)
+INVERT_SIZE(32f, float, _6x6, OneDense32::of<6>)
+INVERT_SIZE(64f, double, _3x3, Dense64::of<3>)
+INVERT_SIZE(64f, double, _4x4, Dense64::of<4>)
+INVERT_SIZE(64f, double, _5x5_PX, Dense64::of<5>)
+INVERT_SIZE(64f, double, _6x6_PX, Dense64::of<6>)
+extern "C" VOKM_NAMED ownvokmInvert_m_32f_4x4_loop2(vokm::DenseObject<const float> src, vokm::DenseObject<const float> nextSrc,
+                                                    vokm::DenseObject<float> dst, vokm::DenseObject<float> nextDst)
+{
+    return vokm::ByCramer::two(src, nextSrc, dst, nextDst);
+}
+
+namespace vokm {
+
+template <class Method, class S, class D> [[gnu::noinline]] vokStatus unnamed(S src, D dst) { return Method::one(src, dst); }
+
+/// One object, by a function of its own: pack loops leave it out of line.
+template <class Method, class S, class D> VOKM_INLINE vokStatus invertOne(const S& src, const D& dst)
+{
+    if constexpr (requires { named(Method(), src, dst); }) {
+        return named(Method(), src, dst);
+    } else {
+        return unnamed<Method>(src, dst);
+    }
+}
+
 /// Whether a 4x4 array goes in pairs: everything aligned to 16, and rows of 16 bytes.
 template <class S, class D> bool inPairs(const S& src, const D& dst)
 {
@@ -175,10 +214,11 @@ template <class Method, int n, bool pairs, class T, class S, class D> [[gnu::noi
             if constexpr (pairs) {
                 if (i % 2 == 1) return vokStatusOk;  // went with the object before it
                 if (i + 1 < count) {
-                    return Method::two(from.object(i, shape), from.object(i + 1, shape), to.object(i, shape), to.object(i + 1, shape));
+                    return ownvokmInvert_m_32f_4x4_loop2(from.object(i, shape), from.object(i + 1, shape), to.object(i, shape),
+                                                         to.object(i + 1, shape));
                 }
             }
-            return Method::one(from.object(i, shape), to.object(i, shape));
+            return invertOne<Method>(from.object(i, shape), to.object(i, shape));
         };
         return walkFailing<T>(count, safe, pack, one);
     };
@@ -259,7 +299,7 @@ VOKM_INLINE vokStatus invert(const S& src, T* buffer, const D& dst, i32 n, i32 c
         constexpr int k = decltype(size)::value;
         using Method = typename MethodsOf<T, variant, S::array>::template of<k>;
         if constexpr (!S::array) {
-            return Method::one(src.object(0, Shape{k, k}), dst.object(0, Shape{k, k}));
+            return invertOne<Method>(src.object(0, Shape{k, k}), dst.object(0, Shape{k, k}));
         } else {
             if constexpr (std::is_same_v<Method, ByCramer> && variant == Variant::plain) {
                 if (inPairs(src, dst)) return invertFixed<Method, k, true, T>(src, dst, count);

@@ -8,4 +8,8 @@ int threadQuestions();                        // how often the library has asked
 void setCacheBytes(int bytes);  // resets the counter
 int cacheQuestions();
 
+// The parallel regions that the library has opened so far, through either OpenMP runtime, and the body of the last one.
+int regionsOpened();
+void* lastRegion();
+
 }  // namespace harness
