@@ -1,8 +1,11 @@
 #include "arena.h"
 
+#include <sys/mman.h>
+
 #include <algorithm>
 #include <numeric>
 #include <sstream>
+#include <stdexcept>
 
 namespace harness {
 
@@ -92,11 +95,31 @@ void Arena::allocate(size_t wanted)
 {
     bytes = wanted;
     for (int image : {0, 1}) {
-        constexpr uintptr_t page = 4096;
+        constexpr uintptr_t page = pageBytes;
         memory[image].reset(new char[bytes + page]);
         uintptr_t address = reinterpret_cast<uintptr_t>(memory[image].get());
         start[image] = memory[image].get() + ((page - address % page) % page);
     }
 }
+
+void Arena::close(const std::vector<OpenPages>& allBut)
+{
+    int64_t end = 0;
+    const auto protect = [this](int64_t from, int64_t to, int rights) {
+        if (from < to && mprotect(live() + from, size_t(to - from), rights) != 0) {
+            throw std::runtime_error("pages cannot be closed");
+        }
+    };
+    for (const OpenPages& pages : allBut) {
+        protect(end, pages.first, PROT_NONE);
+        if (!pages.written) {
+            protect(pages.first, pages.last, PROT_READ);
+        }
+        end = pages.last;
+    }
+    protect(end, int64_t(bytes) / pageBytes * pageBytes, PROT_NONE);
+}
+
+void Arena::open() { mprotect(live(), bytes / pageBytes * pageBytes, PROT_READ | PROT_WRITE); }
 
 }  // namespace harness

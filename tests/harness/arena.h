@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "forms.h"
+#include "guard.h"
 
 namespace harness {
 
@@ -61,6 +62,9 @@ public:
     char* model() const { return start[1]; }
     size_t size() const { return bytes; }
     void copyToModel() { std::memcpy(model(), live(), bytes); }
+    // Of the live image. Between the two only these pages may be touched; those of sources may only be read.
+    void close(const std::vector<OpenPages>& allBut);
+    void open();
 
 private:
     std::unique_ptr<char[]> memory[2];

@@ -26,7 +26,8 @@ template <class T> T ordinaryValue(Random& random)
 {
     // Full mantissas and mixed exponents: a sum in another order nearly always has other bits.
     std::uniform_real_distribution<double> mantissa(1.0, 2.0);
-    double value = std::ldexp(mantissa(random), int(random() % 7) - 3);
+    const int exponent = int(random() % 7) - 3;  // compilers differ in which argument of a call is drawn first
+    const double value = std::ldexp(mantissa(random), exponent);
     return T(random() % 2 ? value : -value);
 }
 
@@ -95,6 +96,12 @@ void Job::layOut(Random& random)
         const Pattern pattern = chosen == spec.patterns.end() ? spec.patterns[""] : chosen->second;
         int64_t extent = operand.lay(pattern, random);
         int64_t start = (end + 63) / 64 * 64 + pattern.align;
+        if (spec.guard != Guard::none) {
+            extent += spec.beyond ? spec.beyond(operand) : 0;
+            pages.emplace_back(end, extent, arg.written);
+            start = pages.back().startOf(extent, spec.guard);
+            extent = pages.back().last - start;
+        }
         if (auto over = spec.overlay.find(arg.name); over != spec.overlay.end()) {
             start = operands.at(over->second.first).base + over->second.second;
         }
@@ -104,9 +111,12 @@ void Job::layOut(Random& random)
         operands[arg.name] = operand;
         laid.push_back(arg.name);
     }
-    arena.allocate(end);
+    arena.allocate(spec.guard == Guard::none ? end : wholePages(end) + pageBytes);
     for (const std::string& name : laid) {
         operands[name].bind(arena.live(), arguments);
+    }
+    if (spec.guard != Guard::none) {
+        fenceTables();
     }
     std::map<std::string, int32_t> declared;
     for (const Param& param : function.params()) {
@@ -115,6 +125,26 @@ void Job::layOut(Random& random)
         }
     }
     arguments.integers = declared;
+}
+
+void Job::fenceTables()
+{
+    int64_t end = 0;
+    std::map<std::string, int64_t> start;
+    for (const std::string& name : laid) {
+        const int64_t bytes = int64_t(operands.at(name).entries.size() * sizeof(char*));
+        if (bytes > 0) {
+            tablePages.emplace_back(end, bytes, false);
+            start[name] = tablePages.back().startOf(bytes, spec.guard);
+            end = tablePages.back().last;
+        }
+    }
+    tables.allocate(end + pageBytes);
+    for (auto [name, at] : start) {
+        const std::vector<char*>& entries = operands.at(name).entries;
+        std::memcpy(tables.live() + at, entries.data(), entries.size() * sizeof(char*));
+        arguments.pointers[name] = tables.live() + at;
+    }
 }
 
 void Job::fill(Random& random)
@@ -166,7 +196,30 @@ int Job::expectedQuestions() const { return !wantsThreads(function, arguments.in
 int32_t Job::runLibrary()
 {
     setThreads(spec.threads, spec.laterThreads);
-    return call(function.name, arguments);
+    if (spec.guard == Guard::none) {
+        return call(function.name, arguments);
+    }
+    int32_t status = 0;
+    arena.close(pages);
+    tables.close(tablePages);
+    const char* address = stoppedAt([&] { status = call(function.name, arguments); });
+    tables.open();
+    arena.open();
+    stopped = address ? stoppedNear(address) : "";
+    return status;
+}
+
+std::string Job::stoppedNear(const char* address) const
+{
+    std::ostringstream text;
+    for (size_t i = 0; i < laid.size(); ++i) {
+        const Operand& operand = operands.at(laid[i]);
+        const int64_t at = address - arena.live();
+        if (at >= pages[i].first - pageBytes && at < pages[i].last + pageBytes) {
+            text << "stopped at " << laid[i] << ", " << at - operand.base << " bytes from its start; ";
+        }
+    }
+    return text.str().empty() ? "stopped at a table or list" : text.str();
 }
 
 // Adds each status that the call may return; the return value is that of the only or first share that failed.
@@ -199,6 +252,9 @@ std::string Job::check()
     std::ostringstream problem;
     int32_t status = runLibrary();
     int questions = threadQuestions();
+    if (!stopped.empty()) {
+        return describe() + ": " + stopped;
+    }
     std::set<int32_t> acceptable;
     runModel(acceptable);
     if (!acceptable.count(status)) {
@@ -218,6 +274,7 @@ std::string Job::describe() const
     for (auto& [name, value] : spec.sizes) {
         text << name << " " << value << ", ";
     }
+    text << (spec.guard == Guard::none ? "" : spec.guard == Guard::before ? "closed before, " : "closed behind, ");
     text << "threads " << spec.threads << ", seed " << spec.seed << ", values " << int(spec.values) << ")";
     for (auto& [name, pattern] : spec.patterns) {
         text << " [" << (name.empty() ? "all" : name) << ": " << pattern.describe() << "]";

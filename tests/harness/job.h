@@ -1,6 +1,7 @@
 // One call of one function on laid-out operands, run by the library and by the slow evaluation, and compared bit for bit.
 #pragma once
 #include <deque>
+#include <functional>
 #include <map>
 #include <optional>
 #include <set>
@@ -22,6 +23,9 @@ struct JobSpec {
     int threads = 1;
     int laterThreads = -1;  // the answer to the second question, where it differs
     int64_t gap = 128;      // bytes between operands
+    // Operands, tables and lists between closed pages, and of each operand the bytes behind it that may be touched.
+    Guard guard = Guard::none;
+    std::function<int64_t(const Operand&)> beyond;
     uint64_t seed = 1;
 };
 
@@ -113,11 +117,16 @@ public:
 
 private:
     void layOut(Random& random);
+    void fenceTables();
     void fill(Random& random);
     template <class T> void fillAs(Random& random);
     template <class T> std::string differencesAs();
     template <class T> void forgiveNaN();
     std::string owner(int64_t offset) const;
+    std::string stoppedNear(const char* address) const;
+    std::vector<OpenPages> pages, tablePages;
+    Arena tables;  // copies of tables and lists, where they are fenced
+    std::string stopped;
 };
 
 // The defaults of a size argument for searches and walks: every size n, agreeing ones agree.
