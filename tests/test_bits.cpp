@@ -1,0 +1,151 @@
+// The library's own bits, over a fixed set of calls: the same from every compiler, at every level of optimisation, in
+// registers of every width, for orders of operations too that the documentation leaves free. bits.txt holds a hash a form of
+// the operands, of the results on one thread, and of those in a team of four. VOKM_WRITE_BITS=1 writes it anew.
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+
+#include "harness/groups.h"
+#include "harness/patterns.h"
+
+using namespace harness;
+
+namespace {
+
+struct Hash {
+    uint64_t value = 1469598103934665603u;
+    void add(uint64_t more)
+    {
+        value = (value ^ more) * 0x9E3779B97F4A7C15u;
+        value ^= value >> 29;
+    }
+    template <class T> void addNumber(T number)
+    {
+        uint64_t bits = 0;
+        if (number != number) number = T(77);  // a not-a-number of any sign and payload
+        std::memcpy(&bits, &number, sizeof number);
+        add(bits);
+    }
+    std::string text() const
+    {
+        std::ostringstream hex;
+        hex << std::hex << value;
+        return hex.str();
+    }
+};
+
+void addElement(Hash& hash, const Operand& operand, const char* at, bool isDouble)
+{
+    if (operand.spec.kind == ArgKind::indices) {
+        hash.add(uint32_t(load<int32_t>(at)));
+    } else if (isDouble) {
+        hash.addNumber(load<double>(at));
+    } else {
+        hash.addNumber(load<float>(at));
+    }
+}
+
+void addOperands(Hash& hash, const Job& job, bool results)
+{
+    for (const std::string& name : job.laid) {
+        const Operand& operand = job.operands.at(name);
+        if (operand.spec.kind == ArgKind::scratch || (operand.spec.written && operand.spec.kind != ArgKind::indices) != results) {
+            continue;
+        }
+        for (int i = 0; i < operand.shape.objects; ++i) {
+            for (int e = 0; e < operand.shape.rows * operand.shape.cols; ++e) {
+                const int64_t at = operand.storedOffset(i, e / operand.shape.cols, e % operand.shape.cols);
+                addElement(hash, operand, job.arena.live() + at, job.function.isDouble);
+            }
+        }
+    }
+    if (!results) {
+        for (auto& [name, value] : job.arguments.reals) hash.addNumber(value);
+    }
+}
+
+// These kernels divide by way of the processor's own estimate of a reciprocal, so their last bits are the processor's.
+bool takesEstimate(const Job& job)
+{
+    const int n = job.function.family == "vokmInvert" ? job.arguments.integers.at("widthHeight") : 0;
+    return n >= 3 && n <= 6 && !job.function.isDouble && (job.kernel == "" || job.kernel == "_L");
+}
+
+JobSpec drawSpec(const Function& function, int draw)
+{
+    JobSpec spec;
+    spec.seed = seedOf(function, 20000 + draw);
+    Random random(spec.seed);
+    spec.sizes = drawAgreeingSizes(function, random);
+    Style style = drawStyle(random);
+    if (function.array && draw % 8 == 0) {
+        const int n = 1 + int(random() % 8);
+        spec.sizes = equalSizes(function, n, 40 + int(random() % 100));
+        style = draw % 16 ? Style::planes : style;
+    }
+    drawPatterns(spec, function, style, random);
+    spec.values = draw % 5 ? Values::ordinary : draw % 2 ? Values::zeros : Values::special;
+    return spec;
+}
+
+JobSpec drawTeam(const Function& function, int draw)
+{
+    JobSpec spec = drawSpec(function, 40000 + draw);
+    spec.sizes = equalSizes(function, 3 + draw % 5, 8);
+    while (spec.sizes["count"] < 60000 && workValue(function, spec.sizes) <= function.limitDense) {
+        spec.sizes["count"] += 1 + spec.sizes["count"] / 10;
+    }
+    spec.threads = 4;
+    return spec;
+}
+
+class Bits : public GroupTest {
+protected:
+    static void add(Hash& inputs, Hash& results, const Function& function, const JobSpec& spec)
+    {
+        Job job(function, spec);
+        if (takesEstimate(job)) {
+            return;
+        }
+        addOperands(inputs, job, false);
+        const int32_t status = job.runLibrary();
+        results.add(spec.threads == 1 ? uint32_t(status) : status == 0);  // in a team, the first failure to arrive wins
+        addOperands(results, job, true);
+        if (function.family == "vokmLUDecomp" || function.form == "-") {
+            addOperands(results, job, false);  // pivots and sizes of buffers
+        }
+    }
+
+    std::string line() const
+    {
+        Hash inputs, alone, team;
+        for (const Function* function : functions()) {
+            for (int draw = 0; draw < 100; ++draw) {
+                add(inputs, alone, *function, drawSpec(*function, draw));
+            }
+            for (int draw = 0; draw < 5 && function->wrapper; ++draw) {
+                add(inputs, team, *function, drawTeam(*function, draw));
+            }
+        }
+        return inputs.text() + " " + alone.text() + " " + team.text();
+    }
+};
+
+TEST_P(Bits, AreThoseOfEveryBuild)
+{
+    const bool write = std::getenv("VOKM_WRITE_BITS") != nullptr;
+    if (write) {
+        std::ofstream(VOKM_BITS, std::ios::app) << GetParam() << " " << line() << "\n";
+        GTEST_SKIP() << "written";
+    }
+    std::ifstream file(VOKM_BITS);
+    std::string name, expected;
+    while (file >> name && std::getline(file >> std::ws, expected) && name != GetParam()) {
+    }
+    ASSERT_EQ(name, GetParam()) << "not in " VOKM_BITS;
+    EXPECT_EQ(line(), expected) << "operands, alone, in a team";
+}
+
+INSTANTIATE_TEST_SUITE_P(Form, Bits, testing::ValuesIn(declaredGroups()), groupName);
+
+}  // namespace
