@@ -146,6 +146,65 @@ TEST_P(Bits, AreThoseOfEveryBuild)
     EXPECT_EQ(line(), expected) << "operands, alone, in a team";
 }
 
+// The arguments of a call for one object.
+Arguments only(const Job& job, std::map<std::string, std::vector<char*>>& lists, int i)
+{
+    Arguments one = job.arguments;
+    one.integers["count"] = 1;
+    for (const std::string& name : job.laid) {
+        const Operand& operand = job.operands.at(name);
+        const bool shared = operand.spec.kind == ArgKind::indices && job.function.form == "mva";  // pivots of the one factor
+        if (!operand.spec.array || operand.spec.kind == ArgKind::scratch || shared) {
+            continue;
+        }
+        if (operand.isList()) {
+            lists[name] = {operand.entries[i]};
+            one.pointers[name] = lists[name].data();
+        } else if (operand.isTable()) {
+            one.integers[operand.spec.prefix + "ObjShift"] += int32_t(i * operand.stride0);
+        } else {
+            one.pointers[name] = static_cast<char*>(one.pointers[name]) + i * operand.stride0;
+        }
+    }
+    return one;
+}
+
+// Whether the place of an object in its array decides an order of sums, or what a failure leaves behind.
+bool placeCounts(const Job& job)
+{
+    const std::string& name = job.function.name;
+    auto size = [&](const char* which) { return job.arguments.integers.at(which); };
+    return (name == "vokmDotProduct_vava_32f" && size("length") == 3) ||                      // four at a time
+           (name.rfind("vokmL2Norm_va_32f", 0) == 0 && size("length") == 5) ||                // likewise
+           (name == "vokmMul_tava_32f" && size("src1Width") == 3 && size("src1Height") == 3) ||  // two at a time
+           (name == "vokmInvert_ma_32f" && size("widthHeight") == 4);                         // both of two, or none
+}
+
+TEST_P(Bits, ArraysAreTheirObjectsInTurn)
+{
+    for (const Function* function : functions()) {
+        for (int draw = 0; draw < 120 && function->array && function->kernels != "none"; ++draw) {
+            const JobSpec spec = drawSpec(*function, 60000 + draw);
+            Job array(*function, spec), inTurn(*function, spec);
+            if (placeCounts(array)) {
+                continue;
+            }
+            const int32_t status = array.runLibrary();
+            int32_t first = 0;
+            std::map<std::string, std::vector<char*>> lists;
+            for (int i = 0; i < spec.sizes.at("count") && (first == 0 || function->family == "vokmAffineTransform3DH"); ++i) {
+                const int32_t one = call(function->name, only(inTurn, lists, i));
+                first = first ? first : one;
+            }
+            std::memcpy(array.arena.model(), inTurn.arena.live(), array.arena.size());
+            const std::string different = status == first ? array.differences() : "status";
+            if (!report(different.empty() ? "" : array.describe() + ": " + different)) {
+                return;
+            }
+        }
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(Form, Bits, testing::ValuesIn(declaredGroups()), groupName);
 
 }  // namespace
