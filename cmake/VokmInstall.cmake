@@ -7,7 +7,10 @@ target_include_directories(vokmm7 PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}
 # The two libraries lie side by side; this lets the linker and the loader find the core next to the one that needs it.
 set_target_properties(vokmm7 PROPERTIES INSTALL_RPATH "$ORIGIN")
 
-install(TARGETS vokmm7 vokcore EXPORT vokm INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(TARGETS vokmm7 vokcore EXPORT vokm
+    LIBRARY COMPONENT runtime NAMELINK_COMPONENT development
+    INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME development)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/vokm)
@@ -19,3 +22,4 @@ install(FILES ${PROJECT_BINARY_DIR}/vokm-config-version.cmake DESTINATION ${pack
 cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX BASE_DIRECTORY ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig OUTPUT_VARIABLE VOKM_PREFIX)
 configure_file(${CMAKE_CURRENT_LIST_DIR}/vokm.pc.in ${PROJECT_BINARY_DIR}/vokm.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/vokm.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+unset(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME)

@@ -1,0 +1,2 @@
+# What Doxygen reads in place of a page: links to public headers become links to their groups.
+s#\]\(\.\./include/(vokm-families/)?([a-z_]+)(\.h)?\)#](@ref \2)#g
