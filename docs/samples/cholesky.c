@@ -18,12 +18,10 @@ static vokStatus solve(float a[][3][3], float b[][3], int32_t count)
 static int32_t factorise(float a[][3][3], float factor[][3][3], vokStatus status[], int32_t count)
 {
     int32_t failed = 0;
-    const vokStatus all =
-        vokmCholeskyDecomp_ma_32f(a[0][0], matrix, row, element, factor[0][0], matrix, row, element, 3, count);
+    const vokStatus all = vokmCholeskyDecomp_ma_32f(a[0][0], matrix, row, element, factor[0][0], matrix, row, element, 3, count);
     for (int32_t i = 0; i < count; ++i) {
         status[i] = vokStatusOk;
-        if (all != vokStatusOk)
-            status[i] = vokmCholeskyDecomp_m_32f(a[i][0], row, element, factor[i][0], row, element, 3);
+        if (all != vokStatusOk) status[i] = vokmCholeskyDecomp_m_32f(a[i][0], row, element, factor[i][0], row, element, 3);
         if (status[i] != vokStatusOk) ++failed;
     }
     return failed;

@@ -34,7 +34,8 @@ vokStatus spreads(const std::vector<const Cluster*>& clusters, double (*values)[
     vokStatus first = vokStatusOk;
     for (int32_t i = 0; i < count; ++i) {
         status = vokmEigenValuesSym_m_64f(list[i], row, element, buffer, values[i], 3);
-        for (int turn = 1; turn < 3 && status == vokStatusNoConvergence; ++turn) status = turnedAxes(*clusters[i], turn, values[i]);
+        for (int turn = 1; turn < 3 && status == vokStatusNoConvergence; ++turn)
+            status = turnedAxes(*clusters[i], turn, values[i]);
         if (first == vokStatusOk) first = status;
     }
     return first;

@@ -28,9 +28,11 @@
    Statuses: those of the checks, in the order pointers, sizes, count, shifts, strides; with vectors the shifts and strides of
    src come before those of the results. A singular matrix is no failure. The tolerance of vokmEigenValues is absolute:
    scale the matrix to entries near 1.
-     vokStatusNoConvergence  more than 30*widthHeight steps. Eigenvalues found so far are written, from the last position down;
-                             vectors are not.
-     vokStatusFailure        a system of the back substitution was too small. Eigenvalues are written, vectors are not.
+
+   - vokStatusNoConvergence: more than 30*widthHeight steps. Eigenvalues found so far are written, from the last position down;
+     vectors are not.
+   - vokStatusFailure: a system of the back substitution was too small. Eigenvalues are written, vectors are not.
+
    A real system that is too small ends the run in the same state, later objects included, with vokStatusOk.
 
    In place: not supported; results must not overlap src, buffer or one another.

@@ -15,11 +15,14 @@
 
    Statuses: those of the checks, in the order pointers, sizes, count, shifts, strides. All tolerances are absolute: scale the
    matrix to entries near 1.
-     vokStatusSingular       the product of all eigenvalues is near 0: not above FLT_EPSILON (DBL_EPSILON; FLT_EPSILON for 64f
-                             arrays with vectors above size 2; DBL_EPSILON for 32f S arrays of 2x2 without vectors and with
-                             dense rows).
-                             At size 2 nothing is written; at others values and vectors are complete, but perhaps unsorted.
-     vokStatusNoConvergence  an eigenvalue took more than 30 steps. What the object's results hold is intermediate.
+
+   - vokStatusSingular: the product of all eigenvalues is near 0: not above FLT_EPSILON (DBL_EPSILON; FLT_EPSILON for 64f arrays
+     with vectors above size 2; DBL_EPSILON for 32f S arrays of 2x2 without vectors and with dense rows). At size 2 nothing is
+     written; at others values and vectors are complete, but perhaps unsorted.
+   - vokStatusNoConvergence: an eigenvalue took more than 30 steps. What the object's results hold is intermediate. It happens to
+     good matrices too: of a million random 3x3, to 30 to 120 in 32f and 12 to 40 in 64f. Try again with the axes in another
+     order, rows and columns permuted alike (a table in P does that without a copy): the values are the same, and the rows of the
+     vectors are permuted like the axes.
 
    In place: not supported; results must not overlap src, buffer or one another.
 
