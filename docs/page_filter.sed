@@ -1,2 +1,2 @@
 # What Doxygen reads in place of a page: links to public headers become links to their groups.
-s#\]\(\.\./include/(vokm-families/)?([a-z_]+)(\.h)?\)#](@ref \2)#g
+s#\]\(\.\./include/(vokm-families/)?([a-z0-9_]+)(\.h)?\)#](@ref \2)#g
