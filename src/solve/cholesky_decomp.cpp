@@ -77,13 +77,13 @@ template <Variant variant, int n, class S, class D> [[gnu::noinline]] i32 factor
     const PlaneBases<const T, K> from(elements(src));
     const PlaneBases<T, K> to(elements(dst));
     if (!planesFree(count, shapedLower<n>(dst), shapedLower<n>(src), from, to)) return 0;
-    return overPlanes<T>(from, to, count, [](auto get, auto put) VOKM_INLINE_LAMBDA {
+    const auto each = [](auto element) VOKM_INLINE_LAMBDA {
+        over(At<0>{}, At<n>{}, [&](auto r) VOKM_INLINE_LAMBDA {
+            over(At<0>{}, next(r), [&](auto c) VOKM_INLINE_LAMBDA { element(r, c, r * (r + 1) / 2 + c); });
+        });
+    };
+    const auto fails = [=](auto get, auto keep) VOKM_INLINE_LAMBDA {
         T a[n][n];
-        const auto each = [](auto element) VOKM_INLINE_LAMBDA {
-            over(At<0>{}, At<n>{}, [&](auto r) VOKM_INLINE_LAMBDA {
-                over(At<0>{}, next(r), [&](auto c) VOKM_INLINE_LAMBDA { element(r, c, r * (r + 1) / 2 + c); });
-            });
-        };
         each([&](int r, int c, int k) VOKM_INLINE_LAMBDA { a[r][c] = get(k); });
         bool failed = false;
         const auto goesOn = [&](T square) VOKM_INLINE_LAMBDA {
@@ -92,9 +92,13 @@ template <Variant variant, int n, class S, class D> [[gnu::noinline]] i32 factor
         };
         const TileObject<T, n, n> tile{a};
         factor<T>(tile, tile, At<n>{}, goesOn, [](T t) VOKM_INLINE_LAMBDA { return inverseRootInDouble(t); });
-        each([&](int r, int c, int k) VOKM_INLINE_LAMBDA { put(k, a[r][c]); });
+        each([&](int r, int c, int k) VOKM_INLINE_LAMBDA { keep(k, a[r][c]); });
         return failed;
-    });
+    };
+    const auto copy = [=](auto, auto kept, auto put) VOKM_INLINE_LAMBDA {
+        each([&](int, int, int k) VOKM_INLINE_LAMBDA { put(k, kept(k)); });
+    };
+    return overPlanes<K>(from, to, count, fails, copy);
 }
 
 template <Variant variant, int n, class S, class D> VOKM_INLINE vokStatus factorFixed(const S& src, const D& dst, i32 count)

@@ -206,21 +206,30 @@ template <class Method, int n, class T, class S, class D> [[gnu::noinline]] i32 
     const PlaneBases<const T, n * n> from(elements(src));
     const PlaneBases<T, n * n> to(elements(dst));
     if (!planesFree(count, Shaped<D>{dst, shape}, Shaped<S>{src, shape}, from, to)) return 0;
-    return overPlanes<T>(from, to, count, [](auto get, auto put) VOKM_INLINE_LAMBDA {
-        T a[n][n];
+    const auto load = [](T (&a)[n][n], auto get) VOKM_INLINE_LAMBDA {
         unrolled<n * n>([&](auto k) VOKM_INLINE_LAMBDA { a[k.value / n][k.value % n] = get(k.value); });
+    };
+    const auto singular = [=](auto get, auto keep) VOKM_INLINE_LAMBDA {
+        T a[n][n];
+        load(a, get);
         const T det = Method::determinant(a);
-        Method::divide(a, det);
-        unrolled<n * n>([&](auto k) VOKM_INLINE_LAMBDA { put(k.value, a[k.value / n][k.value % n]); });
+        keep(0, det);
         return Method::singular(det);
-    });
+    };
+    const auto divide = [=](auto get, auto kept, auto put) VOKM_INLINE_LAMBDA {
+        T a[n][n];
+        load(a, get);
+        Method::divide(a, kept(0));
+        unrolled<n * n>([&](auto k) VOKM_INLINE_LAMBDA { put(k.value, a[k.value / n][k.value % n]); });
+    };
+    return overPlanes<1>(from, to, count, singular, divide);
 }
 
 template <class Method, int n, bool pairs, class T, class S, class D> [[gnu::noinline]] vokStatus invertFixed(S src, D dst, i32 count)
 {
     constexpr Shape shape{n, n};
     i32 done = 0;
-    if constexpr (mayBePlanar<S> && mayBePlanar<D> && n == 3) {
+    if constexpr (mayBePlanar<S> && mayBePlanar<D> && n == 3) {  // the method of this size has its two steps
         if (planar(src) && planar(dst)) done = invertPlanes<Method, n, T>(src, dst, count);
         if (done == count) return vokStatusOk;
     }
