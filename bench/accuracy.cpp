@@ -156,7 +156,12 @@ public:
              "CholeskyBackSubst");
         want(C::qr(a, object, row, e, s, qr.data(), object, row, e, n, n, count) == vokStatusOk, "QRDecomp");
         want(C::qrSolve(qr.data(), object, row, e, s, b, row, e, byQr.data(), row, e, n, n, count) == vokStatusOk, "QRBackSubst");
-        want(C::invert(a, object, row, e, s, inverse.data(), object, row, e, n, count) == vokStatusOk, "Invert");
+        // One by one, because a call ends at a matrix that it takes for singular: that has no inverse, which counts as an
+        // infinite error.
+        for (int i = 0; i < count; ++i) {
+            const vokStatus status = C::invert(a + i * n * n, object, row, e, s, inverse.data() + i * n * n, object, row, e, n, 1);
+            want(status == vokStatusOk || status == vokStatusSingular, "Invert");
+        }
         want(C::det(a, object, row, e, n, s, determinant.data(), count) == vokStatusOk, "Det");
     }
 
@@ -468,7 +473,7 @@ void print(const Cells& single, const Cells& twice) {
 } // namespace bench
 
 int main(int arguments, char** argument) {
-    const int count = arguments > 1 ? std::atoi(argument[1]) : 5000; // matrices a size, type and condition
+    const int count = arguments > 1 ? std::atoi(argument[1]) : 1000; // matrices a size, type and condition
     if (count < 1) {
         std::fprintf(stderr, "usage: vokm_accuracy [number of matrices]\n");
         return 2;

@@ -1,4 +1,5 @@
-// What the Eigen texts share. Every file here is compiled twice, once for each flavour's shared object.
+// What the Eigen texts share. Each is compiled once for each flavour's shared object, element type and size, for which CMake
+// sets BENCH_TYPE and BENCH_SIZE: all in one would take many minutes and gigabytes.
 #pragma once
 
 #include "peer.h"
@@ -12,10 +13,10 @@ using Eigen::ColMajor;
 using Eigen::Dynamic;
 using Eigen::RowMajor;
 
-void vectorRows(Add);
-void matrixRows(Add);
-void solveRows(Add);
-void eigenRows(Add);
+template <class T, int n> void vectorRows(Add);
+template <class T, int n> void matrixRows(Add);
+template <class T, int n> void solveRows(Add);
+template <class T, int n> void eigenRows(Add);
 
 template <class T> constexpr char code = sizeof(T) == 4 ? 'f' : 'd';
 
@@ -48,19 +49,6 @@ template <class T, int n> auto table(const void* base, long columns, long rows =
 }
 template <class T, int n> auto table(void* base, long columns, long rows = n) {
     return Eigen::Map<Eigen::Matrix<T, n, Dynamic>, Eigen::AlignedMax>(static_cast<T*>(base), rows, columns);
-}
-
-// Calls rows<T, n>(add) for both types and the sizes 3 to 6; `Rows` is a function object.
-template <class Rows> void forTypesAndSizes(Add add, Rows rows) {
-    auto sizes = [&](auto zero) {
-        using T = decltype(zero);
-        rows.template operator()<T, 3>(add);
-        rows.template operator()<T, 4>(add);
-        rows.template operator()<T, 5>(add);
-        rows.template operator()<T, 6>(add);
-    };
-    sizes(0.0f);
-    sizes(0.0);
 }
 
 } // namespace flavour

@@ -2,7 +2,7 @@
 
 namespace flavour {
 
-template <class T, int n> void eigenproblems(Add add) {
+template <class T, int n> void eigenRows(Add add) {
     using Square = Eigen::Matrix<T, n, n>;
     const auto row = [add](const char* name, const char* how, void (*run)(const Operands&), bool aside = false) {
         add({name, code<T>, n, how, run, true, aside});
@@ -54,8 +54,6 @@ template <class T, int n> void eigenproblems(Add add) {
     });
 }
 
-void eigenRows(Add add) {
-    forTypesAndSizes(add, []<class T, int n>(Add to) { eigenproblems<T, n>(to); });
-}
+template void eigenRows<BENCH_TYPE, BENCH_SIZE>(Add);
 
 } // namespace flavour

@@ -126,11 +126,10 @@ template <class T, int n, int order> void solvers(Add add) {
 #undef TO
 }
 
-void solveRows(Add add) {
-    forTypesAndSizes(add, []<class T, int n>(Add to) {
-        solvers<T, n, RowMajor>(to);
-        solvers<T, n, ColMajor>(to);
-    });
+template <class T, int n> void solveRows(Add add) {
+    solvers<T, n, RowMajor>(add);
+    solvers<T, n, ColMajor>(add);
 }
+template void solveRows<BENCH_TYPE, BENCH_SIZE>(Add);
 
 } // namespace flavour

@@ -75,7 +75,7 @@ template <class T> void threeVectors(Add add) {
          }});
 }
 
-void transforms(Add add) {
+[[maybe_unused]] void transforms(Add add) {
     const auto row = [add](const char* how, void (*run)(const Operands&)) {
         add({"AffineTransform3DH_mva", 'f', 3, how, run});
     };
@@ -109,11 +109,11 @@ void transforms(Add add) {
     });
 }
 
-void vectorRows(Add add) {
-    forTypesAndSizes(add, []<class T, int n>(Add to) { vectors<T, n>(to); });
-    threeVectors<float>(add);
-    threeVectors<double>(add);
-    transforms(add);
+template <class T, int n> void vectorRows(Add add) {
+    vectors<T, n>(add);
+    if constexpr (n == 3) threeVectors<T>(add);
+    if constexpr (n == 3 && sizeof(T) == 4) transforms(add);
 }
+template void vectorRows<BENCH_TYPE, BENCH_SIZE>(Add);
 
 } // namespace flavour

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <cpuid.h>
 #include <omp.h>
 #include <unistd.h>
 
@@ -16,11 +17,25 @@ EXPORTED int32_t ownGetNumThreads()
     return std::max(1, std::min(omp_get_max_threads(), omp_get_thread_limit()));
 }
 
-EXPORTED int32_t vokGetMaxCacheSizeB(int32_t* bytes)
+// As the processor describes the caches of one core: of a package that has its last cache in pieces, sysconf() tells the sum.
+static long largestCache()
 {
     long largest = 0;
-    for (int level : {_SC_LEVEL1_DCACHE_SIZE, _SC_LEVEL2_CACHE_SIZE, _SC_LEVEL3_CACHE_SIZE, _SC_LEVEL4_CACHE_SIZE})
-        largest = std::max(largest, sysconf(level));
-    *bytes = static_cast<int32_t>(std::min<long>(largest, INT32_MAX));
+    for (unsigned leaf : {4u, 0x8000001du}) {
+        unsigned a, b, c, d;
+        for (unsigned level = 0; level < 8 && __get_cpuid_count(leaf, level, &a, &b, &c, &d) && a % 32 != 0; ++level) {
+            const long ways = (b >> 22) + 1, partitions = (b >> 12 & 0x3ff) + 1, line = (b & 0xfff) + 1;
+            largest = std::max(largest, ways * partitions * line * (long(c) + 1));
+        }
+    }
+    for (int level : {_SC_LEVEL3_CACHE_SIZE, _SC_LEVEL2_CACHE_SIZE, _SC_LEVEL1_DCACHE_SIZE})
+        if (largest <= 0) largest = sysconf(level);
+    return std::clamp<long>(largest, 0, INT32_MAX);
+}
+
+EXPORTED int32_t vokGetMaxCacheSizeB(int32_t* bytes)
+{
+    static const long largest = largestCache();
+    *bytes = static_cast<int32_t>(largest);
     return 0;
 }

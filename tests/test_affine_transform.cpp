@@ -34,11 +34,11 @@ TEST(AffineTransform, SmallDivisors)
     const std::pair<float, bool> cases[] = {{smallest, false}, {-smallest, false}, {std::nextafter(smallest, 1.0f), true},
         {-std::nextafter(smallest, 1.0f), true}, {FLT_TRUE_MIN, false}, {0.0f, false}, {-0.0f, false}, {NAN, false},
         {INFINITY, true}, {-INFINITY, true}, {-2.0f, true}, {FLT_MAX, true}};
-    for (int unit : {1, 2}) {
+    for (auto [count, unit] : {std::pair(3, 1), {3, 2}, {40, 1}}) {
         for (auto [w, accepted] : cases) {
-            Job job(affine(), specOf(3, unit));
+            Job job(affine(), specOf(count, unit));
             makeDepthTheDivisor(job);
-            job.put<float>("src2", 1, 0, 2, w);
+            job.put<float>("src2", count / 2, 0, 2, w);
             std::set<int32_t> status;
             EXPECT_EQ(job.runModel(status), accepted ? 0 : -10) << w;
             job.arena.copyToModel();

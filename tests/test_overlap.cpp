@@ -39,9 +39,10 @@ TEST_P(Overlap, InPlace)
                 spec.seed = seedOf(*function, draw);
                 Random random(spec.seed);
                 int n = draw % 4 ? 3 + int(random() % 4) : 1 + int(random() % 20);
-                spec.sizes = equalSizes(*function, n, 1 + int(random() % 9));
+                const bool longRun = draw % 30 == 0;
+                spec.sizes = equalSizes(*function, n, longRun ? 200 + int(random() % 300) : 1 + int(random() % 9));
                 spec.gap = 8192;
-                drawPatterns(spec, *function, drawStyle(random), random);
+                drawPatterns(spec, *function, longRun ? Style::tight : drawStyle(random), random);
                 Pattern& shared = spec.patterns[source.name];
                 shared.sequence = 'a';
                 spec.patterns["dst"] = shared;

@@ -39,6 +39,64 @@ protected:
         }
     }
 
+    // Applies the reflection along a random direction to the rows, or to the columns.
+    static void reflect(double* a, int n, const std::vector<double>& v, int step, int across)
+    {
+        double square = 0;
+        for (double x : v) {
+            square += x * x;
+        }
+        for (int j = 0; j < n; ++j) {
+            double inner = 0;
+            for (int i = 0; i < n; ++i) {
+                inner += v[i] * a[i * step + j * across];
+            }
+            for (int i = 0; i < n; ++i) {
+                a[i * step + j * across] -= 2 * inner / square * v[i];
+            }
+        }
+    }
+
+    // Singular values from the root of the condition down to its inverse, so that no pivot comes near an absolute threshold.
+    void fillConditioned(T* to, int n, double condition, bool symmetric)
+    {
+        std::vector<double> a(n * n), left(n), right(n);
+        for (int i = 0; i < n; ++i) {
+            a[i * n + i] = 1.25 * std::pow(condition, n > 1 ? 0.5 - double(i) / (n - 1) : 0);
+        }
+        for (int turn = 0; turn < 3; ++turn) {
+            for (int i = 0; i < n; ++i) {
+                left[i] = uniform(random);
+                right[i] = uniform(random);
+            }
+            reflect(a.data(), n, left, n, 1);
+            reflect(a.data(), n, symmetric ? left : right, 1, n);
+        }
+        for (int r = 0; r < n; ++r) {
+            for (int c = 0; c < n; ++c) {
+                to[r * n + c] = T(symmetric ? a[std::max(r, c) * n + std::min(r, c)] : a[r * n + c]);
+            }
+        }
+    }
+
+    // |b - Ax| over |A| |x| + |b|, in norms that are roots of sums of squares.
+    static double backwardError(const T* a, const T* x, const T* b, int n)
+    {
+        long double rests = 0, as = 0, xs = 0, bs = 0;
+        for (int r = 0; r < n; ++r) {
+            long double rest = b[r];
+            for (int c = 0; c < n; ++c) {
+                const long double element = a[r * n + c];
+                rest -= element * x[c];
+                as += element * element;
+            }
+            rests += rest * rest;
+            xs += static_cast<long double>(x[r]) * x[r];
+            bs += static_cast<long double>(b[r]) * b[r];
+        }
+        return double(std::sqrt(rests) / (std::sqrt(as) * std::sqrt(xs) + std::sqrt(bs)));
+    }
+
     std::mt19937 random{1};
     std::uniform_real_distribution<double> uniform{-1, 1};
 };
@@ -67,6 +125,42 @@ TYPED_TEST(Solvers, EquationsAreSolved)
             }
             ASSERT_EQ(solve.run(), 0);
             this->expectSolved(factor["src"].data(), solve["dst"].data(), solve["src2"].data(), n, family);
+        }
+    }
+}
+
+// The backward error does not grow with the condition: singular values in a geometric series between random reflections.
+TYPED_TEST(Solvers, EquationsAreSolvedAtAnyCondition)
+{
+    using T = TypeParam;
+    for (const char* family : {"vokmLU", "vokmCholesky", "vokmQR"}) {
+        const std::string decomp = named<T>(family + std::string("Decomp_ma")), subst = named<T>(family + std::string("BackSubst_mava"));
+        const bool symmetric = family == std::string("vokmCholesky");
+        for (int n = 1; n <= 12 && isDeclared(decomp); ++n) {
+            for (double condition : {1., 1e2, 1e4, 1e6}) {
+                // A definite matrix whose rounded elements may make it indefinite need not have a factor.
+                if (symmetric && n * condition * this->eps > 0.1) {
+                    continue;
+                }
+                constexpr int count = 20;
+                Dense<T> factor(decomp, {{"widthHeight", n}, {"width", n}, {"height", n}, {"count", count}});
+                Dense<T> solve(subst, {{"widthHeight", n}, {"width", n}, {"height", n}, {"count", count}});
+                for (int i = 0; i < count; ++i) {
+                    this->fillConditioned(factor.object("src", i), n, condition, symmetric);
+                }
+                ASSERT_EQ(factor.run(), 0) << decomp << " n " << n << " condition " << condition;
+                solve["src"] = factor["dst"];
+                solve.indices = factor.indices;
+                for (T& b : solve["src2"]) {
+                    b = T(this->uniform(this->random));
+                }
+                ASSERT_EQ(solve.run(), 0);
+                for (int i = 0; i < count; ++i) {
+                    EXPECT_LE(this->backwardError(factor.object("src", i), solve.object("dst", i), solve.object("src2", i), n),
+                        10 * n * this->eps)
+                        << decomp << " n " << n << " condition " << condition << " object " << i;
+                }
+            }
         }
     }
 }
@@ -205,6 +299,81 @@ TYPED_TEST(Solvers, ObjectsOfAnArrayAreAsIfAlone)
             for (auto& [operand, values] : job.elements) {
                 for (size_t at = 0; at < values.size() && operand != "buffer"; ++at) {
                     ASSERT_TRUE(sameBits(values[at], alone[operand][at])) << name << " n " << n << " " << operand << " " << at;
+                }
+            }
+        }
+    }
+}
+
+// A plane of memory for each element of n x n matrices.
+template <class T> struct Planes {
+    int n, count;
+    std::vector<T> values;
+
+    Planes(int size, int objects) : n(size), count(objects), values(size_t(size) * size * objects) {}
+    T& at(int i, int r, int c) { return values[(size_t(r) * n + c) * count + i]; }
+    std::vector<T*> table()
+    {
+        std::vector<T*> elements;
+        for (int k = 0; k < n * n; ++k) {
+            elements.push_back(&values[size_t(k) * count]);
+        }
+        return elements;
+    }
+};
+
+// The objects of planes from `first` on, through strides or tables; `dst` may be `src`.
+template <class T> int32_t runPlanes(const std::string& name, bool tables, Planes<T>& src, Planes<T>& dst, int first, int count)
+{
+    constexpr int E = sizeof(T);
+    std::vector<T*> from = src.table(), to = dst.table();
+    std::vector<T> buffer(64);
+    Arguments arguments;
+    arguments.pointers["src"] = tables ? static_cast<void*>(from.data()) : &src.values[first];
+    arguments.pointers["dst"] = tables ? static_cast<void*>(to.data()) : &dst.values[first];
+    arguments.pointers["buffer"] = buffer.data();
+    arguments.integers = {{"widthHeight", src.n}, {"count", count}};
+    for (const char* operand : {"src", "dst"}) {
+        arguments.integers[operand + std::string("ObjShift")] = first * E;
+        arguments.integers[operand + std::string("Stride0")] = E;
+        arguments.integers[operand + std::string("Stride1")] = src.n * src.count * E;
+        arguments.integers[operand + std::string("Stride2")] = src.count * E;
+    }
+    return call(name + (tables ? "_P" : ""), arguments);
+}
+
+// Planes go in blocks: the bits, the first failure and what it leaves are those of one object after the other, in place too.
+TYPED_TEST(Solvers, PlanesAreAsIfOneByOne)
+{
+    using T = TypeParam;
+    constexpr int count = 600;
+    for (const char* group : {"vokmCholeskyDecomp_ma", "vokmInvert_ma"}) {
+        for (int kind = 0; kind < 4 * 4; ++kind) {
+            const int n = 3 + kind % 4;
+            const bool tables = kind & 4, inPlace = kind & 8;
+            for (int bad : {-1, 0, 15, 77, 256, 383, 599}) {
+                Planes<T> src(n, count), dst(n, count), wanted(n, count);
+                for (int i = 0; i < count; ++i) {
+                    std::vector<T> a(n * n);
+                    this->fillDefinite(a.data(), n);
+                    for (int k = 0; k < n * n; ++k) {
+                        src.at(i, k / n, k % n) = i == bad ? T(k == 0) : a[k];
+                        dst.at(i, k / n, k % n) = wanted.at(i, k / n, k % n) = T(77);
+                    }
+                }
+                src.at(400, 0, 0) = std::numeric_limits<T>::quiet_NaN();
+                if (inPlace) {
+                    dst = wanted = src;
+                }
+                int32_t status = 0;
+                for (int i = 0; i < count && status == 0; ++i) {
+                    status = runPlanes(named<T>(group), tables, src, wanted, i, 1);
+                }
+                ASSERT_EQ(status != 0, bad >= 0);
+                ASSERT_EQ(runPlanes(named<T>(group), tables, inPlace ? dst : src, dst, 0, count), status);
+                for (size_t at = 0; at < dst.values.size(); ++at) {
+                    ASSERT_TRUE(sameBits(dst.values[at], wanted.values[at]))
+                        << group << " n " << n << " tables " << tables << " in place " << inPlace << " bad " << bad << " at " << at;
                 }
             }
         }

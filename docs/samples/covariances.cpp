@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <random>
@@ -45,7 +46,7 @@ int main()
 {
     std::mt19937 random(1);
     std::uniform_real_distribution<double> uniform(-1, 1);
-    std::vector<Cluster> clusters(400000);
+    std::vector<Cluster> clusters(100000);
     std::vector<const Cluster*> list;
     for (Cluster& cluster : clusters) {
         for (int r = 0; r < 3; ++r)

@@ -25,22 +25,30 @@ VOKM_INLINE bool widestRegisters() { return __builtin_cpu_supports("avx512f"); }
 #define VOKM_WIDEST "avx512f,prefer-vector-width=512"
 #endif
 
-template <class Step> [[gnu::target("avx2"), VOKM_OUT_OF_LINE]] void alongWide(i64 n, Step step)
+// The step comes by address and is copied here, field by field: a copy as a whole would wait for the stores of its fields.
+template <class Step> [[gnu::noinline]] void alongNarrow(i64 n, const Step* given)
 {
+    const Step step(*given);
     VOKM_INDEPENDENT for (i64 j = 0; j < n; ++j) step(j);
 }
-template <class Step> [[gnu::target(VOKM_WIDEST), VOKM_OUT_OF_LINE]] void alongWidest(i64 n, Step step)
+template <class Step> [[gnu::target("avx2"), VOKM_OUT_OF_LINE]] void alongWide(i64 n, const Step* given)
 {
+    const Step step(*given);
+    VOKM_INDEPENDENT for (i64 j = 0; j < n; ++j) step(j);
+}
+template <class Step> [[gnu::target(VOKM_WIDEST), VOKM_OUT_OF_LINE]] void alongWidest(i64 n, const Step* given)
+{
+    const Step step(*given);
     VOKM_INDEPENDENT for (i64 j = 0; j < n; ++j) step(j);
 }
 
 /// step(j) for j = 0 .. n-1, several at a time. `step` is always inlined, holds what it needs by value, and its steps are
 /// independent of one another.
-template <class Step> VOKM_INLINE void along(i64 n, Step step)
+template <class Step> VOKM_INLINE void along(i64 n, const Step& step)
 {
-    if (n >= 64 && widestRegisters()) return alongWidest(n, step);
-    if (n >= 32 && wideRegisters()) return alongWide(n, step);
-    VOKM_INDEPENDENT for (i64 j = 0; j < n; ++j) step(j);
+    if (n >= 64 && widestRegisters()) return alongWidest(n, &step);
+    if (n >= 32 && wideRegisters()) return alongWide(n, &step);
+    alongNarrow(n, &step);
 }
 
 }  // namespace vokm

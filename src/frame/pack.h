@@ -97,30 +97,11 @@ template <class V> VOKM_INLINE V rootInDouble(V x) { return root(x); }
 inline float inverseRootInDouble(float x) { return static_cast<float>(1 / std::sqrt(static_cast<double>(x))); }
 inline double inverseRootInDouble(double x) { return 1 / std::sqrt(x); }
 inline Pack<double> inverseRootInDouble(Pack<double> x) { return 1.0 / root(x); }
-inline Pack<float> slowInverseRootInDouble(Pack<float> x)
+inline Pack<float> inverseRootInDouble(Pack<float> x)
 {
     const __m128 v = __m128(x);
     const Pack<double> low(_mm_cvtps_pd(v)), high(_mm_cvtps_pd(_mm_movehl_ps(v, v)));
     return Pack<float>(_mm_movelh_ps(_mm_cvtpd_ps(__m128d(1.0 / root(low))), _mm_cvtpd_ps(__m128d(1.0 / root(high)))));
-}
-/// The same bits without a root or a division of 64 bits, from the processor's estimate: a Newton step in 32 bits, whose result
-/// has a square that is exact in 64, then the series of (1 - e)^(-1/2), e = 1 - x*y^2, to e^2. That is off by less than
-/// 1.6 * 2^-53, whatever the estimate within its 1.5 * 2^-12, and the two roundings of the slow way by less than 2^-52; but no
-/// 1 / sqrt(x) comes nearer than 2^-51.8 to a place where the rounding to 32 bits changes (true of all 2^24 mantissas with
-/// either parity of the exponent). The estimate knows no denormals and no infinity, which go the slow way with not-a-numbers.
-VOKM_INLINE Pack<float> inverseRootInDouble(Pack<float> x)
-{
-    const __m128 v = __m128(x);
-    const __m128 normal = _mm_and_ps(_mm_cmpge_ps(v, _mm_set1_ps(0x1p-126f)), _mm_cmple_ps(v, _mm_set1_ps(0x1.fffffep127f)));
-    if (__builtin_expect(_mm_movemask_ps(normal) != 15, 0)) return slowInverseRootInDouble(x);
-    const Pack<float> estimate(_mm_rsqrt_ps(v));
-    const __m128 y = __m128(estimate + (0.5f * estimate) * (1.0f - (x * estimate) * estimate));
-    const auto refined = [](__m128d wide, __m128d inverse) VOKM_INLINE_LAMBDA {
-        const Pack<double> u(wide), w(inverse), e = 1.0 - u * (w * w);
-        return _mm_cvtpd_ps(__m128d(w + w * (e * (0.5 + 0.375 * e))));
-    };
-    return Pack<float>(_mm_movelh_ps(refined(_mm_cvtps_pd(v), _mm_cvtps_pd(y)),
-                                     refined(_mm_cvtps_pd(_mm_movehl_ps(v, v)), _mm_cvtps_pd(_mm_movehl_ps(y, y)))));
 }
 
 /// x > y and x <= y lane by lane, as masks that are combined freely: g++ 12 joins two comparisons of doubles written with the
@@ -219,7 +200,9 @@ template <int K, class Source> VOKM_INLINE void turnRuns(Pack<double>* to, const
         }
     }
     for (; k + 2 <= K; k += 2) {
-        const auto a = from.four(0, k), b = from.four(1, k);
+        auto a = from.four(0, k), b = from.four(1, k);
+        // Each register in one load of 16 bytes: g++ would load the halves one by one, and loads are what a 3x3 waits for.
+        if constexpr (K == 9) asm("" : "+x"(a), "+x"(b));
         to[k] = __builtin_shufflevector(a, b, 0, 2);
         to[k + 1] = __builtin_shufflevector(a, b, 1, 3);
     }

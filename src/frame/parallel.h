@@ -67,12 +67,16 @@ template <const Row& row, class T, auto plain, auto strided, class... A> vokStat
     return region<strided, row.merges>(a...);
 }
 
+// g++ with the undefined-behaviour sanitizer takes no comparison of a function's address for a constant.
+template <Work work> constexpr bool given = true;
+template <> inline constexpr bool given<nullptr> = false;
+
 /// A wrapper. With one kernel for any stride, `plain` and `strided` are the same function, and there is one region.
 template <const Row& row, class T, auto plain, auto strided, class... A> vokStatus parallel(const A&... a)
 {
     const i32 wanted = ownGetNumThreads();
     if (wanted <= 1 || countOf(a...) < wanted) return serial<plain, strided>((contiguous(a) && ...), a...);
-    if constexpr (row.scratch != nullptr) {
+    if constexpr (given<row.scratch>) {
         constexpr int k = (SizesIn<A>::k + ... + 0);
         const i32 slab = withSizes(
             [&](const i32* sizes) {

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "along.h"
-#include "pack.h"
+#include "stream.h"
 
 namespace vokm {
 
@@ -54,17 +54,24 @@ template <template <int, int, int, int> class Pick, int k, int K, class V> VOKM_
     }
 }
 
+// Register by register: an array that is copied as a whole would have to live in memory.
 template <int K, class T> VOKM_INLINE void loadWide(WidePack<T> (&lanes)[K], const T* run)
 {
     WidePack<T> registers[K];
-    std::memcpy(registers, run, sizeof registers);
+    for (int k = 0; k < K; ++k) registers[k] = loadLanes<WidePack<T>>(run + k * wideLanes<T>);
     turnWide<PickElement, 0>(registers, lanes);
 }
-template <int K, class T> VOKM_INLINE void storeWide(const WidePack<T> (&lanes)[K], T* run)
+template <int K, bool past = false, class T> VOKM_INLINE void storeWide(const WidePack<T> (&lanes)[K], T* run)
 {
     WidePack<T> registers[K];
     turnWide<PickLane, 0>(lanes, registers);
-    std::memcpy(run, registers, sizeof registers);
+    for (int k = 0; k < K; ++k) {
+        if constexpr (past) {
+            storePastCache<WidePack<T>>(run + k * wideLanes<T>, registers[k]);
+        } else {
+            storeLanes<WidePack<T>>(run + k * wideLanes<T>, registers[k]);
+        }
+    }
 }
 /// The K elements of the objects of pack p: of an array without gaps, or of a single operand.
 template <int K, class View> struct WideRuns {
@@ -72,6 +79,14 @@ template <int K, class View> struct WideRuns {
     const T* base;
     VOKM_INLINE explicit WideRuns(const View& view) : base(view.base) {}
     VOKM_INLINE void operator()(WidePack<T> (&lanes)[K], i64 p) const { loadWide<K>(lanes, base + p * (K * wideLanes<T>)); }
+    /// From object i on; a loop that stores past the cache asks for what follows.
+    template <bool past> VOKM_INLINE void load(WidePack<T> (&lanes)[K], i64 i) const
+    {
+        if constexpr (past) {
+            for (int k = 0; k < K; ++k) fetchSource(base + i * K + k * wideLanes<T>);
+        }
+        loadWide<K>(lanes, base + i * K);
+    }
 };
 template <int K, class View>
     requires(!View::array)
@@ -88,11 +103,43 @@ struct WideRuns<K, View> {
     {
         for (int k = 0; k < K; ++k) lanes[k] = values[k] - WidePack<T>{};
     }
+    template <bool> VOKM_INLINE void load(WidePack<T> (&lanes)[K], i64 i) const { (*this)(lanes, i); }
 };
 
 template <class Pack> [[gnu::target(VOKM_WIDEST), VOKM_OUT_OF_LINE]] void packsWide(i64 packs, Pack pack)
 {
     for (i64 p = 0; p < packs; ++p) pack(p);
+}
+
+/// The first object of K elements that begins a line of 64 bytes, or 0 if none of the first pack does.
+template <int K, class T> VOKM_INLINE i32 objectAtLine(const T* at)
+{
+    for (i32 i = 0; i < wideLanes<T>; ++i) {
+        if (reinterpret_cast<std::uintptr_t>(at + i * K) % 64 == 0) return i;
+    }
+    return 0;
+}
+/// work.template objects<past>(i) for packs of objects from i on, until all `count` are done, `aligned` being the first of those
+/// that the loop takes; the first and the last pack do some objects a second time, which no result may notice. At least a pack.
+template <bool past, int N, class Work> [[gnu::target(VOKM_WIDEST), VOKM_OUT_OF_LINE]] void objectsWide(i32 count, i32 aligned, Work* work)
+{
+    Work own(*work);  // in registers
+    if (aligned > 0) own.template objects<false>(0);
+    i32 i = aligned;
+    for (; i + N <= count; i += N) own.template objects<past>(i);
+    if (i < count) own.template objects<false>(count - N);
+    if constexpr (past) finishStoresPastCache();
+    *work = own;
+}
+/// For results of K elements that follow one another from `dst` on, and `bytes` of operands and results in all.
+template <int K, class T, class Work> VOKM_INLINE void overObjectsWide(i32 count, const T* dst, i64 bytes, Work& work)
+{
+    const i32 aligned = objectAtLine<K>(dst);
+    if (reinterpret_cast<std::uintptr_t>(dst + aligned * K) % 64 == 0 && outgrowsCache(bytes)) {
+        objectsWide<true, wideLanes<T>>(count, aligned, &work);
+    } else {
+        objectsWide<false, wideLanes<T>>(count, count >= 4 * wideLanes<T> ? aligned : 0, &work);
+    }
 }
 
 }  // namespace vokm

@@ -9,6 +9,7 @@
 
 #include "../frame/fixed.h"
 #include "../frame/overlap.h"
+#include "../frame/wide_pack.h"
 
 namespace vokm {
 
@@ -19,9 +20,51 @@ template <Variant variant, class V, class H> VOKM_INLINE V coordinate(const H& a
     return ((at(0) * p[0][0] + at(3)) + at(1) * p[0][1]) + at(2) * p[0][2];
 }
 
+/// Points without gaps between them, in the widest packs. A point with a bad w is set lane by lane.
+template <Variant variant, class A> struct WideTransform {
+    using V = WidePack<float>;
+    struct {
+        V value[4][4];
+        template <class> VOKM_INLINE V at(int r, int c) const { return value[r][c]; }
+    } a;
+    WideRuns<3, A> points;
+    float* to;
+    decltype(V{} > V{}) bad{};
+
+    // g++ takes comparisons apart for the target of the text that they stand in.
+    template <bool past> [[gnu::target(VOKM_WIDEST)]] VOKM_INLINE void objects(i64 i)
+    {
+        V p[1][3], d[3];
+        points.template load<past>(p[0], i);
+        const V w = coordinate<variant>(a, 3, p);
+        const auto regular = (w > FLT_MIN) | (w < -FLT_MIN);
+        const V inv = 1.0f / w;
+        const V t[3] = {coordinate<variant>(a, 0, p), coordinate<variant>(a, 1, p), coordinate<variant>(a, 2, p)};
+        for (int j = 0; j < 3; ++j) d[j] = regular ? t[j] * inv : FLT_MAX - V{};
+        bad |= ~regular;
+        storeWide<3, past>(d, to + i * 3);
+    }
+    vokStatus status() const
+    {
+        int any = 0;
+        for (int lane = 0; lane < lanesIn<V>; ++lane) any |= bad[lane];
+        return any ? vokStatusDivideByZero : vokStatusOk;
+    }
+};
+
 template <Variant variant, class M, class A, class D> VOKM_INLINE vokStatus transform(M src1, A src2, D dst, i32 count)
 {
     using T = float;
+    if constexpr (variant == Variant::plain) {
+        if (widestRegisters() && count >= wideLanes<T> && packedObjects<3>(src2) && packedObjects<3>(dst) &&
+            wholesApart(count, Shaped<D>{dst, {1, 3}}, Shaped<A>{src2, {1, 3}})) {
+            WideTransform<variant, A> work{{}, WideRuns<3, A>(src2), dst.base};
+            const auto matrix = src1.object(0, {4, 4});
+            for (int k = 0; k < 16; ++k) work.a.value[k / 4][k % 4] = splat<WidePack<T>>(matrix(k / 4, k % 4));
+            overObjectsWide<3>(count, dst.base, i64(count) * 24, work);
+            return work.status();
+        }
+    }
     const Held<T, 4, 4, M> a(src1, count >= packLanes<T>);
     vokStatus status = vokStatusOk;
     // Returns whether every w was large enough; if not, nothing is stored.

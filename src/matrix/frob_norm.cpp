@@ -6,6 +6,7 @@
 #include "../frame/overlap.h"
 #include "../frame/row_registers.h"
 #include "../frame/sums.h"
+#include "../vector/wide_sums.h"
 
 namespace vokm {
 
@@ -134,6 +135,44 @@ template <int n, class A> VOKM_INLINE auto sumJoinedRowsOfPack(const A& src, i32
     return sumLanes(lanes);
 }
 
+/// The same sums of 64f matrices whose rows follow one another, in registers of 32 bytes: the even ones of the narrow registers
+/// are their lower halves. Four objects a turn, as long as there are four; returns how many objects are done.
+template <class A> [[gnu::target("avx2"), gnu::noinline]] i32 wideSquares(A src, double* dst, i32 count)
+{
+    using Quad = typename LanesOf<double, 4>::type;
+    const double* x = src.base;
+    i32 i = 0;
+    for (; i + 4 <= count; i += 4) {
+        Quad down[4];
+        for (int k = 0; k < 4; ++k, x = byBytes(x, src.stride0)) {
+            Quad q;
+            std::memcpy(&q, x, sizeof q);
+            down[k] = q * q;
+            for (int j = 1; j < 9; ++j) {
+                std::memcpy(&q, x + 4 * j, sizeof q);
+                down[k] += q * q;
+            }
+        }
+        const Quad ab = __builtin_shufflevector(down[0], down[1], 0, 1, 4, 5) + __builtin_shufflevector(down[0], down[1], 2, 3, 6, 7);
+        const Quad cd = __builtin_shufflevector(down[2], down[3], 0, 1, 4, 5) + __builtin_shufflevector(down[2], down[3], 2, 3, 6, 7);
+        // The lanes hold objects 0, 2, 1, 3.
+        const Quad s = __builtin_shufflevector(ab, cd, 0, 4, 2, 6) + __builtin_shufflevector(ab, cd, 1, 5, 3, 7);
+        const Quad inOrder = __builtin_shufflevector(s, s, 0, 2, 1, 3);
+        std::memcpy(dst + i, &inOrder, sizeof inOrder);
+    }
+    return i;
+}
+/// Roots behind the sums, a block in the cache at a time; returns how many norms are done.
+template <class A> VOKM_INLINE i32 wideNorms(const A& src, double* dst, i32 count)
+{
+    i32 done = 0;
+    for (i32 n = 1; n > 0; done += n) {
+        n = wideSquares(src.from(done), dst + done, std::min(512, count - done));
+        along(n, [d = dst + done](i64 i) VOKM_INLINE_LAMBDA { d[i] = root(d[i]); });
+    }
+    return done;
+}
+
 /// The other orders, over any shape; q(r, c) is the square.
 template <class V, class Q> VOKM_INLINE V sumSquares(Squares order, Shape shape, Q q)
 {
@@ -194,6 +233,13 @@ template <Variant variant, class A, class T> VOKM_INLINE vokStatus frobNorms(A s
         constexpr int n = decltype(size)::value;
         constexpr Shape square{n, n};
         constexpr Squares order = squaresOrder<T>(variant, A::array, square);
+        if constexpr (A::array && sizeof(T) == 8 && requires { src.base; }) {
+            if (order == Squares::lanes && wideRegisters() && count >= 16 && src.stride1 == n * 8 && apartFrom(src, n * n, count, dst.base)) {
+                const i32 done = wideNorms(src, dst.base, count);
+                src = src.from(done), dst = dst.from(done);
+                count -= done;
+            }
+        }
         using Results = StrideView<T, Code::va>;
         const Results results(dst.base, sizeof(T), 0, sizeof(T));
         const auto guard = lazyGuard<T>(count, [&]() VOKM_INLINE_LAMBDA {

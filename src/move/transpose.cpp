@@ -3,6 +3,7 @@
 #include "../frame/fixed.h"
 #include "../frame/overlap.h"
 #include "transpose.h"
+#include "wide_transpose.h"
 
 namespace vokm {
 
@@ -121,9 +122,17 @@ vokStatus transpose(const S& src, const D& dst, i32 width, i32 height, i32 count
             // Rows of the result that overlap one another are stored in order, too. Aligned 4 x 4 objects of an array are read
             // whole before they are written, so those can be turned in place.
             const bool whole = n == 4 && sizeof(T) == 4 && S::array && alignedRows(src) && alignedRows(dst);
-            if (dense && dst.stride1 >= row && (whole || wholesApart(count, Shaped<D>{dst, shape}, Shaped<S>{src, shape}))) {
+            const bool apart = wholesApart(count, Shaped<D>{dst, shape}, Shaped<S>{src, shape});
+            if (dense && dst.stride1 >= row && (whole || apart)) {
                 const T* from = src.base;
                 T* to = dst.base;
+                if constexpr (S::array && n != 5) {  // of five, every register would take from too many
+                    if (apart && packedObjects<n * n>(src) && packedObjects<n * n>(dst) && src.stride1 == row &&
+                        dst.stride1 == row && count >= transposedAtOnce<T, n> && widestRegisters()) {
+                        WideTransposes<T, n> work{from, to};
+                        return objectsWide<false, transposedAtOnce<T, n>>(count, 0, &work);
+                    }
+                }
                 const i64 fromStep = src.stride0, toStep = dst.stride0, fromRow = src.stride1, toRow = dst.stride1;
                 for (i32 i = 0; i < count; ++i) {
                     turn<n>(from, fromRow, to, toRow);

@@ -3,6 +3,7 @@
 
 #include "../frame/row.h"
 #include "../frame/stamp.h"
+#include "../frame/stream.h"
 
 namespace vokm {
 
@@ -37,5 +38,3 @@ void owniTranspose_32s_NT(const float* src, int32_t srcStep, float* dst, int32_t
 void ownm_iTranspose_16u_C4R_M7(
     const double* src, int32_t srcStep, double* dst, int32_t dstStep, int32_t width, int32_t height);
 }
-
-extern "C" int32_t vokGetMaxCacheSizeB(int32_t* bytes);  // the core library: the largest cache, 0 if unknown

@@ -4,6 +4,7 @@
 //   d(i)   = 1 / sqrt(a(i,i) - L(i,0)^2 - ... - L(i,i-1)^2)                  root and quotient in 64 bits, rounded once
 #include "cholesky.h"
 
+#include "../frame/plane_blocks.h"
 #include "triangle.h"
 
 namespace vokm {
@@ -11,10 +12,10 @@ namespace vokm {
 /// What a square must be above. Deliberate: one size of one layout has another bound, for both element types.
 template <Variant variant, int n, class T> constexpr T leastSquare = variant == Variant::P&& n == 3 ? T(0x1p-23) : T(0);
 
-/// Factors `a` into `l`; returns the row of the first square that is not above `least` in every lane (not-a-numbers pass), or
-/// n. Of that row, what stands left of the diagonal is done.
-template <class V, class A, class L, class N, class Inverse>
-VOKM_INLINE int factor(const A& a, const L& l, N n, Element<V> least, Inverse inverse)
+/// Factors `a` into `l`; returns the row of the first square at which stops(square), or n. Of that row, what stands left of the
+/// diagonal is done.
+template <class V, class A, class L, class N, class Stops, class Inverse>
+VOKM_INLINE int factor(const A& a, const L& l, N n, Stops stops, Inverse inverse)
 {
     int row = 0;
     over(At<0>{}, n, [&](auto i) VOKM_INLINE_LAMBDA {
@@ -25,12 +26,18 @@ VOKM_INLINE int factor(const A& a, const L& l, N n, Element<V> least, Inverse in
         });
         V t = a(i, i);
         over(At<0>{}, i, [&](auto k) VOKM_INLINE_LAMBDA { t = t - l(i, k) * l(i, k); });
-        if (any(splat<V>(least) >= t)) return false;
+        if (stops(t)) return false;
         l(i, i) = inverse(t);
         ++row;
         return true;
     });
     return row;
+}
+
+/// A square is not above `least`, in any lane; not-a-numbers pass.
+template <class V> VOKM_INLINE auto notAbove(Element<V> least)
+{
+    return [least](V square) VOKM_INLINE_LAMBDA { return any(splat<V>(least) >= square); };
 }
 
 /// One object of a size with a path: in registers, then stored as far as it went.
@@ -40,7 +47,8 @@ template <Variant variant, int n, class S, class D> VOKM_INLINE bool factorOne(c
     T a[n][n];
     loadLower(a, src, i);
     const TileObject<T, n, n> tile{a};
-    const int rows = factor<T>(tile, tile, At<n>{}, leastSquare<variant, n, T>, [](T t) { return inverseRootInDouble(t); });
+    const auto inverse = [](T t) VOKM_INLINE_LAMBDA { return inverseRootInDouble(t); };
+    const int rows = factor<T>(tile, tile, At<n>{}, notAbove<T>(leastSquare<variant, n, T>), inverse);
     if (rows == n) {
         storeLower(a, dst, i);
         return true;
@@ -54,6 +62,45 @@ template <Variant variant, int n, class S, class D> VOKM_INLINE bool factorOne(c
     return false;
 }
 
+/// The leading objects of arrays with a plane for each element of the triangle; returns how many are done.
+template <Variant variant, int n, class S, class D> [[gnu::noinline]] i32 factorPlanes(S src, D dst, i32 count)
+{
+    using T = typename D::element;
+    constexpr int K = n * (n + 1) / 2;
+    const auto elements = [](const auto& view) VOKM_INLINE_LAMBDA {
+        return [object = view.object(0, Shape{n, n})](int k) VOKM_INLINE_LAMBDA -> auto& {
+            int r = 0;
+            while (k > r) k -= ++r;
+            return object(r, k);
+        };
+    };
+    const PlaneBases<const T, K> from(elements(src));
+    const PlaneBases<T, K> to(elements(dst));
+    if (!planesFree(count, shapedLower<n>(dst), shapedLower<n>(src), from, to)) return 0;
+    const auto each = [](auto element) VOKM_INLINE_LAMBDA {
+        over(At<0>{}, At<n>{}, [&](auto r) VOKM_INLINE_LAMBDA {
+            over(At<0>{}, next(r), [&](auto c) VOKM_INLINE_LAMBDA { element(r, c, r * (r + 1) / 2 + c); });
+        });
+    };
+    const auto fails = [=](auto get, auto keep) VOKM_INLINE_LAMBDA {
+        T a[n][n];
+        each([&](int r, int c, int k) VOKM_INLINE_LAMBDA { a[r][c] = get(k); });
+        bool failed = false;
+        const auto goesOn = [&](T square) VOKM_INLINE_LAMBDA {
+            failed |= leastSquare<variant, n, T> >= square;
+            return false;
+        };
+        const TileObject<T, n, n> tile{a};
+        factor<T>(tile, tile, At<n>{}, goesOn, [](T t) VOKM_INLINE_LAMBDA { return inverseRootInDouble(t); });
+        each([&](int r, int c, int k) VOKM_INLINE_LAMBDA { keep(k, a[r][c]); });
+        return failed;
+    };
+    const auto copy = [=](auto, auto kept, auto put) VOKM_INLINE_LAMBDA {
+        each([&](int, int, int k) VOKM_INLINE_LAMBDA { put(k, kept(k)); });
+    };
+    return overPlanes<K>(from, to, count, fails, copy);
+}
+
 template <Variant variant, int n, class S, class D> VOKM_INLINE vokStatus factorFixed(const S& src, const D& dst, i32 count)
 {
     using T = typename D::element;
@@ -61,15 +108,20 @@ template <Variant variant, int n, class S, class D> VOKM_INLINE vokStatus factor
     constexpr i32 N = packLanes<T>;
     const auto from = lowerPart<n>(src);
     const auto to = lowerPart<n>(dst);
+    i32 done = 0;
+    if constexpr (mayBePlanar<S> && mayBePlanar<D>) {
+        if (planar(from) && planar(to)) done = factorPlanes<variant, n>(from, to, count);
+        if (done == count) return vokStatusOk;
+    }
     const auto guard =
         lazyGuard<T>(count, [&]() VOKM_INLINE_LAMBDA { return packGuard(count, shapedLower<n>(to), shapedLower<n>(from)); });
-    for (i32 i = 0; i < count;) {
+    for (i32 i = done; i < count;) {
         if (i + N <= count && guard(i)) {
             V a[n][n];
             loadLower(a, from, i);
             const TileObject<V, n, n> tile{a};
             const auto inverse = [](V t) VOKM_INLINE_LAMBDA { return inverseRootInDouble(t); };
-            if (factor<V>(tile, tile, At<n>{}, leastSquare<variant, n, T>, inverse) == n) {
+            if (factor<V>(tile, tile, At<n>{}, notAbove<V>(leastSquare<variant, n, T>), inverse) == n) {
                 storeLower(a, to, i);
                 i += N;
                 continue;
@@ -92,7 +144,7 @@ template <Variant variant, class S, class D> VOKM_INLINE vokStatus factorGeneral
         return variant == Variant::P && sizeof(T) == 4 ? 1 / rootInDouble(t) : inverseRootInDouble(t);
     };
     for (i32 i = 0; i < count; ++i) {
-        if (factor<T>(src.object(i, shape), dst.object(i, shape), n, 0, inverse) < n) return vokStatusNotPositiveDefinite;
+        if (factor<T>(src.object(i, shape), dst.object(i, shape), n, notAbove<T>(0), inverse) < n) return vokStatusNotPositiveDefinite;
     }
     return vokStatusOk;
 }

@@ -2,6 +2,8 @@
 // last bits, in their thresholds and in what a failure leaves behind.
 #include "inverse.h"
 
+#include "../frame/fixed.h"
+#include "../frame/plane_blocks.h"
 #include "inverse_bordered.h"
 #include "scratch_elimination.h"
 
@@ -194,9 +196,43 @@ template <class S, class D> bool inPairs(const S& src, const D& dst)
     return bits % 16 == 0 && (src.stride1 | dst.stride1) == 16;
 }
 
+/// The leading objects of arrays with a plane for each element; returns how many are done.
+template <class Method, int n, class T, class S, class D> [[gnu::noinline]] i32 invertPlanes(S src, D dst, i32 count)
+{
+    constexpr Shape shape{n, n};
+    const auto elements = [=](const auto& view) VOKM_INLINE_LAMBDA {
+        return [object = view.object(0, shape)](int k) VOKM_INLINE_LAMBDA -> auto& { return object(k / n, k % n); };
+    };
+    const PlaneBases<const T, n * n> from(elements(src));
+    const PlaneBases<T, n * n> to(elements(dst));
+    if (!planesFree(count, Shaped<D>{dst, shape}, Shaped<S>{src, shape}, from, to)) return 0;
+    const auto load = [](T (&a)[n][n], auto get) VOKM_INLINE_LAMBDA {
+        unrolled<n * n>([&](auto k) VOKM_INLINE_LAMBDA { a[k.value / n][k.value % n] = get(k.value); });
+    };
+    const auto singular = [=](auto get, auto keep) VOKM_INLINE_LAMBDA {
+        T a[n][n];
+        load(a, get);
+        const T det = Method::determinant(a);
+        keep(0, det);
+        return Method::singular(det);
+    };
+    const auto divide = [=](auto get, auto kept, auto put) VOKM_INLINE_LAMBDA {
+        T a[n][n];
+        load(a, get);
+        Method::divide(a, kept(0));
+        unrolled<n * n>([&](auto k) VOKM_INLINE_LAMBDA { put(k.value, a[k.value / n][k.value % n]); });
+    };
+    return overPlanes<1>(from, to, count, singular, divide);
+}
+
 template <class Method, int n, bool pairs, class T, class S, class D> [[gnu::noinline]] vokStatus invertFixed(S src, D dst, i32 count)
 {
     constexpr Shape shape{n, n};
+    i32 done = 0;
+    if constexpr (mayBePlanar<S> && mayBePlanar<D> && n == 3) {  // the method of this size has its two steps
+        if (planar(src) && planar(dst)) done = invertPlanes<Method, n, T>(src, dst, count);
+        if (done == count) return vokStatusOk;
+    }
     const auto guard = lazyGuard<T>(count, [&]() VOKM_INLINE_LAMBDA { return packGuard(count, Shaped<D>{dst, shape}, Shaped<S>{src, shape}); });
     const auto safe = [&](i32 i) VOKM_INLINE_LAMBDA {
         if constexpr (std::is_same_v<Method, ByBorders<2>>) return guard(i) && objectsApart(i, Shaped<D>{dst, shape}, Shaped<S>{src, shape});
@@ -220,7 +256,7 @@ template <class Method, int n, bool pairs, class T, class S, class D> [[gnu::noi
             }
             return invertOne<Method>(from.object(i, shape), to.object(i, shape));
         };
-        return walkFailing<T>(count, safe, pack, one);
+        return walkFailing<T>(done, count, safe, pack, one);
     };
     if constexpr (mayBeTight<S> && mayBeTight<D>) {
         if (isTight<n, n>(src) && isTight<n, n>(dst)) return run(asTight<n, n>(src), asTight<n, n>(dst));

@@ -1,7 +1,8 @@
 // Inverses by cofactors: the adjugate of a 3x3 matrix, and Laplace expansion for 4x4 to 6x6.
 //
 // invert(a) replaces a tile by its inverse; it returns false, with the tile in any state, if threshold > |determinant|, in any
-// lane for packs. NaN passes.
+// lane for packs. NaN passes. Where it is put together from determinant(a), singular(det) and divide(a, det), these go without
+// a branch: divide(a, det) leaves what is of no use if singular(det).
 #pragma once
 
 #include "minors.h"
@@ -57,16 +58,20 @@ template <Adjugate kind> struct ByAdjugate {
             return (splat<V>(0) - c) * r;
         }
     }
-    template <class V> VOKM_INLINE static bool invert(V (&a)[3][3])
+    template <class V> VOKM_INLINE static V determinant(const V (&a)[3][3])
     {
-        using T = Element<V>;
         const V x0 = a[0][0] * cofactor<0, 0>(a), x1 = a[1][0] * cofactor<1, 0>(a), x2 = a[2][0] * cofactor<2, 0>(a);
-        V det;
-        if constexpr (kind == Adjugate::estimate) det = (x1 + x2) + x0;
-        if constexpr (kind == Adjugate::dense64) det = (x0 + x2) + x1;
-        if constexpr (kind == Adjugate::array32) det = (x0 + x2) - x1;
-        if constexpr (kind == Adjugate::any) det = (x2 - x1) + x0;
-        if (any(splat<V>(thresholds * sizeThreshold<T>(3)) > magnitude(det))) return false;
+        if constexpr (kind == Adjugate::estimate) return (x1 + x2) + x0;
+        if constexpr (kind == Adjugate::dense64) return (x0 + x2) + x1;
+        if constexpr (kind == Adjugate::array32) return (x0 + x2) - x1;
+        if constexpr (kind == Adjugate::any) return (x2 - x1) + x0;
+    }
+    template <class V> VOKM_INLINE static auto singular(V det)
+    {
+        return splat<V>(thresholds * sizeThreshold<Element<V>>(3)) > magnitude(det);
+    }
+    template <class V> VOKM_INLINE static void divide(V (&a)[3][3], V det)
+    {
         V r;
         if constexpr (kind == Adjugate::estimate) {
             r = refinedReciprocal(det);
@@ -78,6 +83,12 @@ template <Adjugate kind> struct ByAdjugate {
             ((b[k / 3][k % 3] = entry<k % 3, k / 3>(a, r)), ...);
         }(std::make_integer_sequence<int, 9>());
         VOKM_UNROLL for (int k = 0; k < 9; ++k) a[k / 3][k % 3] = b[k / 3][k % 3];
+    }
+    template <class V> VOKM_INLINE static bool invert(V (&a)[3][3])
+    {
+        const V det = determinant(a);
+        if (any(singular(det))) return false;
+        divide(a, det);
         return true;
     }
 };

@@ -92,7 +92,7 @@ template <int n, class T, class S, class D> [[gnu::noinline]] vokStatus decompos
     const bool packs = count >= packLanes<T> && elementsApart(Shaped<D>{dst, shape});
     const auto run = [&](auto from, auto to) VOKM_INLINE_LAMBDA {
         return walkFailing<T>(
-            count, [&](i32 i) VOKM_INLINE_LAMBDA { return packs && guard(i); },
+            0, count, [&](i32 i) VOKM_INLINE_LAMBDA { return packs && guard(i); },
             [&](i32 i) VOKM_INLINE_LAMBDA {
                 Pack<T> a[n][n];
                 Index<Pack<T>> p[n];

@@ -103,10 +103,10 @@ template <class V, int n, AmongEquals equals = AmongEquals::first> struct Search
 /// written nothing, and its objects go through one(i), which returns a status, as the objects do that belong to no pack. The
 /// first failure ends the walk.
 template <class T, class Guard, class WholePack, class One>
-VOKM_INLINE vokStatus walkFailing(i32 count, const Guard& guard, WholePack pack, One one)
+VOKM_INLINE vokStatus walkFailing(i32 first, i32 count, const Guard& guard, WholePack pack, One one)
 {
     constexpr i32 N = packLanes<T>;
-    for (i32 i = 0; i < count;) {
+    for (i32 i = first; i < count;) {
         for (; i + N <= count && guard(i) && pack(i); i += N) {}
         for (const i32 end = std::min(count, i + N); i < end; ++i) {
             if (const vokStatus status = one(i)) return status;

@@ -15,6 +15,21 @@ template <class V> VOKM_INLINE void cross(const V (&a)[1][3], const V (&b)[1][3]
     d[0][2] = a[0][0] * b[0][1] - a[0][1] * b[0][0];
 }
 
+/// Dense arrays without gaps, in the widest packs.
+template <class T, class A, class B> struct WideCrosses {
+    WideRuns<3, A> x;
+    WideRuns<3, B> y;
+    T* to;
+    template <bool past> VOKM_INLINE void objects(i64 i) const
+    {
+        WidePack<T> a[1][3]{}, b[1][3]{}, d[1][3];
+        x.template load<past>(a[0], i);
+        y.template load<past>(b[0], i);
+        cross(a, b, d);
+        storeWide<3, past>(d[0], to + i * 3);
+    }
+};
+
 template <class T, class A, class B, class D> VOKM_INLINE vokStatus crossProducts(A src1, B src2, D dst, i32 count)
 {
     constexpr Shape three{1, 3};
@@ -35,20 +50,12 @@ template <class T, class A, class B, class D> VOKM_INLINE vokStatus crossProduct
         }
     }
     if constexpr (D::array && D::dense && requires { dst.stride0; }) {
-        constexpr i32 N = wideLanes<T>;
-        if (widestRegisters() && count >= N && packedObjects<3>(dst) && (!A::array || packedObjects<3>(src1)) &&
+        if (widestRegisters() && count >= wideLanes<T> && packedObjects<3>(dst) && (!A::array || packedObjects<3>(src1)) &&
             (!B::array || packedObjects<3>(src2)) && wholesApart(count, Shaped<D>{dst, three}, Shaped<A>{src1, three}) &&
             wholesApart(count, Shaped<D>{dst, three}, Shaped<B>{src2, three})) {
-            packsWide(count / N, [x = WideRuns<3, A>(src1), y = WideRuns<3, B>(src2), to = dst.base](i64 p) VOKM_INLINE_LAMBDA {
-                WidePack<T> a[1][3]{}, b[1][3]{}, d[1][3];
-                x(a[0], p);
-                y(b[0], p);
-                cross(a, b, d);
-                storeWide<3>(d[0], to + p * (3 * N));
-            });
-            const i32 done = count / N * N;
-            src1 = src1.from(done), src2 = src2.from(done), dst = dst.from(done);
-            count -= done;
+            WideCrosses<T, A, B> work{WideRuns<3, A>(src1), WideRuns<3, B>(src2), dst.base};
+            overObjectsWide<3>(count, dst.base, i64(count) * (3 * i64(sizeof(T)) * (1 + A::array + B::array)), work);
+            return vokStatusOk;
         }
     }
     const bool packs = count >= packLanes<T>;

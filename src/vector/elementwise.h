@@ -5,10 +5,7 @@
 // that are written: where it shares memory with the result, element follows element too.
 #pragma once
 
-#include <numeric>
-
-#include "../frame/along.h"
-#include "../frame/fixed.h"
+#include "../frame/long_run.h"
 #include "../frame/overlap.h"
 
 namespace vokm {
@@ -67,16 +64,6 @@ template <class View> inline bool oneRun(const View& view, Shape shape)
     }
 }
 
-/// Element j of a run, or the constant.
-template <class View> VOKM_INLINE auto ofRun(const View& view)
-{
-    if constexpr (View::code == Code::c) {
-        return [value = view.value](i64) VOKM_INLINE_LAMBDA { return value; };
-    } else {
-        return [base = view.base](i64 j) VOKM_INLINE_LAMBDA { return base[j]; };
-    }
-}
-
 /// As separate() of overlap.h, for a destination that is one run of `bytes`; a source that is an array is a run as well, a
 /// single one has contiguous rows.
 template <class D, class S> VOKM_INLINE bool runApart(const D& dst, const S& src, i64 bytes, Shape shape)
@@ -91,56 +78,21 @@ template <class D, class S> VOKM_INLINE bool runApart(const D& dst, const S& src
     }
 }
 
-/// Arrays (and constants) that are one run each: one long vector.
-template <class T, class Op, class A, class B, class D> VOKM_INLINE void longRun(Op op, A a, B b, D dst, i64 elements)
-{
-    along(elements, [op, x = ofRun(a), y = ofRun(b), d = dst.base](i64 j) VOKM_INLINE_LAMBDA { d[j] = op(x(j), y(j)); });
-}
-
-/// The elements of a single operand, repeated until they fill whole registers, beside the runs of the arrays.
-template <class T, int R, int C, class View> struct Pattern {
-    static constexpr int K = R * C, N = packLanes<T>, length = std::lcm(K, N);  // as long as a period
-    Pack<T> repeated[length / N];
-    T tile[R][C];
-    VOKM_INLINE explicit Pattern(const View& view)
-    {
-        load(tile, view, 0);
-#pragma GCC unroll 128
-        for (int j = 0; j < length; ++j) repeated[j / N][j % N] = (&tile[0][0])[j % K];
-    }
-    VOKM_INLINE Pack<T> pack(const View&, i64, int k) const { return repeated[k % length / N]; }
-    VOKM_INLINE T one(const View&, i64, int k) const { return (&tile[0][0])[k % K]; }
-};
-struct RunAlong {
-    template <class View> VOKM_INLINE explicit RunAlong(const View&) {}
-    template <class View> VOKM_INLINE auto pack(const View& view, i64 j, int k) const
-    {
-        using T = std::remove_const_t<typename View::element>;
-        if constexpr (View::code == Code::c) {
-            return splat<Pack<T>>(view.value);
-        } else {
-            return loadLanes<Pack<T>>(view.base + j + k);
-        }
-    }
-    template <class View> VOKM_INLINE auto one(const View& view, i64 j, int k) const { return ofRun(view)(j + k); }
-};
 template <class View> constexpr bool isSingleOperand = !View::array && View::code != Code::c;
 
-template <class T, int R, int C, class Op, class A, class B, class D>
-inline void patternRun(Op op, A a, B b, D dst, i32 count)
+/// An operand as a source of a long run: an array that is one run, a constant, or the elements of a single operand over and over.
+template <class T, int R, int C, class View> VOKM_INLINE auto alongRun(const View& view)
 {
-    using OfA = std::conditional_t<isSingleOperand<A>, Pattern<T, R, C, A>, RunAlong>;
-    using OfB = std::conditional_t<isSingleOperand<B>, Pattern<T, R, C, B>, RunAlong>;
-    // Six registers a turn or nearly so, lest the loop itself takes longer than its stores.
-    constexpr int N = packLanes<T>, period = std::lcm(R * C, N), step = period >= 4 * N ? period : period * (6 * N / period);
-    const OfA ofA(a);
-    const OfB ofB(b);
-    const i64 elements = i64(count) * (R * C);
-    i64 j = 0;
-    for (; j + step <= elements; j += step) {
-        for (int k = 0; k < step; k += N) storeLanes(dst.base + j + k, op(ofA.pack(a, j, k), ofB.pack(b, j, k)));
+    if constexpr (View::code == Code::c) {
+        return Everywhere<T>{view.value};
+    } else if constexpr (View::array || R == 0) {
+        return Run<T>{view.base};
+    } else {
+        Repeated<T, R * C> repeated;
+        const auto object = view.object(0, Shape{R, C});
+        for (int k = 0; k < R * C; ++k) repeated.element[k] = object(k / C, k % C);
+        return repeated;
     }
-    for (int k = 0; j + k < elements; ++k) dst.base[j + k] = op(ofA.one(a, j, k), ofB.one(b, j, k));
 }
 
 /// The same element of all objects, where neighbouring objects are neighbours in memory; of a single operand, its one element.
@@ -219,7 +171,7 @@ VOKM_INLINE vokStatus elementwise(Op op, A a, B b, D dst, Shape shape, i32 count
     const auto general = [&]() VOKM_INLINE_LAMBDA -> vokStatus {
         if constexpr (D::dense && !isSingleOperand<A> && !isSingleOperand<B> && requires { dst.base; }) {
             if (oneRun(a, shape) && oneRun(b, shape) && oneRun(dst, shape) && apart()) {
-                longRun<T>(op, a, b, dst, i64(count) * shape.elements());
+                longRun(op, alongRun<T, 0, 0>(a), alongRun<T, 0, 0>(b), dst.base, i64(count) * shape.elements());
                 return vokStatusOk;
             }
         }
@@ -237,11 +189,7 @@ VOKM_INLINE vokStatus elementwise(Op op, A a, B b, D dst, Shape shape, i32 count
                               oneRun(dst, shape) && count > 1;
             const i64 bytes = i64(count) * (R * C) * i64(sizeof(T));
             if (runs && runApart(dst, a, bytes, shape) && runApart(dst, b, bytes, shape)) {
-                if constexpr (isSingleOperand<A> || isSingleOperand<B>) {
-                    patternRun<T, R, C>(op, a, b, dst, count);
-                } else {
-                    longRun<T>(op, a, b, dst, i64(count) * (R * C));
-                }
+                longRun(op, alongRun<T, R, C>(a), alongRun<T, R, C>(b), dst.base, i64(count) * (R * C));
                 return vokStatusOk;
             }
         }

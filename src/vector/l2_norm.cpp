@@ -55,6 +55,8 @@ VOKM_INLINE vokStatus norms(const A& src, const Packed<T>& dst, const Sizes<1>& 
         return normsOf<normVa, variant>(src, dst, sizes[0], count.n, count.n & ~3);
     } else {
         if constexpr (variant == Variant::plain) {
+            constexpr Order ofThree = normVa64.order<double>(variant, 3);
+            if (sizes[0] == 3 && threesWide<ofThree, true>(src, src, dst.base, count.n)) return vokStatusOk;
             // Roots wait for one another in narrow registers, so they are taken behind the sums, a block in the cache at a time.
             if (wideRegisters() && sizes[0] >= 3 && sizes[0] <= 6 && count.n >= 64 && apartFrom(src, sizes[0], count.n, dst.base)) {
                 for (i32 start = 0; start < count.n; start += 512) {

@@ -65,10 +65,14 @@ template <class A, class B> struct Products {
     /// Sums of leading objects in wide registers, where no result lies on a source; returns how many.
     template <Order order, int n> VOKM_INLINE i32 leading(double* dst, i32 count) const
     {
-        if constexpr (folds && sumsWide<order, n> && requires {
-                          a.stride0;
-                          b.stride0;
-                      }) {
+        constexpr bool strides = requires {
+            a.stride0;
+            b.stride0;
+        };
+        if constexpr (folds && strides && n == 3) {
+            if (threesWide<order, false>(a, b, dst, count)) return count;
+        }
+        if constexpr (folds && strides && sumsWide<order, n>) {
             if (wideRegisters() && count >= 8 && apartFrom(a, n, count, dst) && apartFrom(b, n, count, dst)) {
                 return wideSums<order, n>(a, b, dst, count);
             }

@@ -2,9 +2,12 @@
 // loads of the narrow loop, which can do no more than two loads a cycle. Each object's sum is formed as everywhere.
 #pragma once
 
+#include <immintrin.h>
+
 #include "../frame/along.h"
 #include "../frame/overlap.h"
 #include "../frame/sums.h"
+#include "../frame/wide_pack.h"
 
 namespace vokm {
 
@@ -57,6 +60,44 @@ template <Order order, int n, class A, class B>
         std::memcpy(dst + i, &s, sizeof s);
     }
     return i;
+}
+
+/// Dot products or norms of vectors of three that follow one another, in the widest packs: the products of whole registers are
+/// formed before they are turned into lanes.
+template <Order order, bool norms> struct WideThrees {
+    const double *x, *y;
+    double* dst;
+    template <bool past> [[gnu::target(VOKM_WIDEST)]] VOKM_INLINE void objects(i64 i) const
+    {
+        using V = WidePack<double>;
+        V products[3], p[3];
+        for (int k = 0; k < 3; ++k) {
+            const i64 at = i * 3 + k * wideLanes<double>;
+            if (past) fetchSource(x + at);
+            if (past && !norms) fetchSource(y + at);
+            products[k] = loadLanes<V>(x + at);
+            products[k] = products[k] * (norms ? products[k] : loadLanes<V>(y + at));
+        }
+        turnWide<PickElement, 0>(products, p);
+        V s = sum<order>(p);
+        if constexpr (norms) s = V(_mm512_sqrt_pd(__m512d(s)));
+        if constexpr (past) {
+            storePastCache<V>(dst + i, s);
+        } else {
+            storeLanes<V>(dst + i, s);
+        }
+    }
+};
+/// All objects, if they lie so and apart from the results; returns whether.
+template <Order order, bool norms, class A, class B> VOKM_INLINE bool threesWide(const A& a, const B& b, double* dst, i32 count)
+{
+    if (count < wideLanes<double> || !widestRegisters() || !packedObjects<3>(a) || !packedObjects<3>(b) ||
+        !apartFrom(a, 3, count, dst) || !apartFrom(b, 3, count, dst)) {
+        return false;
+    }
+    WideThrees<order, norms> work{a.base, b.base, dst};
+    overObjectsWide<1>(count, dst, i64(count) * (norms ? 32 : 56), work);
+    return true;
 }
 
 template <Order order, int n> constexpr bool sumsWide = (n == 4 && order == Order::evenOdd) ||
