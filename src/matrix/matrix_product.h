@@ -3,7 +3,9 @@
 #pragma once
 
 #include "general_products.h"
+#include "planar_products.h"
 #include "row_products.h"
+#include "wide_rows.h"
 
 namespace vokm {
 
@@ -109,6 +111,11 @@ VOKM_INLINE vokStatus matrixProducts(A a, B b, D dst, const i32* sizes, i32 coun
     };
     const auto path = [&]<int n, Order order>() VOKM_INLINE_LAMBDA -> vokStatus {
         const Operands<n, A, B, NoAddend, D> of{a, b, NoAddend{}, dst};
+        if constexpr (mayBeTight<D>) {
+            if (allWide<order>(of, count)) return vokStatusOk;
+        } else if constexpr (n == 3 && D::array && !D::dense && !isList<D>) {
+            if (count >= wideLanes<T> && of.planes() && alongPlanes<order>(of, count)) return vokStatusOk;
+        }
         if constexpr (wayOf<T, n, D>() == Way::rows) {
             productsOfRows<order>(of, count);
         } else if constexpr (wayOf<T, n, D>() == Way::tiles) {

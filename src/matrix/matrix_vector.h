@@ -4,6 +4,7 @@
 #include "general_products.h"
 #include "vector_products.h"
 #include "wide_products.h"
+#include "wide_sums_of_rows.h"
 
 namespace vokm {
 
@@ -58,6 +59,9 @@ template <class A, class B, class D> inline bool goesInTwos(const A& a, const B&
     return bits % 16 == 0 && a.stride1 == 16;
 }
 
+/// Whether the leading objects may go in the widest registers: arrays of contiguous rows, but for transposed ones.
+template <class A, class D> constexpr bool leadInWide = mayBeTight<D> && !(A::array && isTransposed(A::code));
+
 template <const auto& table, Variant variant, class T, class A, class B, class C, class D>
 VOKM_INLINE vokStatus matrixVectors(A a, B b, C c, D dst, const i32* sizes, i32 count)
 {
@@ -69,10 +73,16 @@ VOKM_INLINE vokStatus matrixVectors(A a, B b, C c, D dst, const i32* sizes, i32 
         if constexpr (n == 3 && A::code == Code::ta && B::array && variant == Variant::plain && sizeof(T) == 4) {
             if (goesInTwos(a, b, dst)) count += count & 1;
         }
-        if constexpr (!A::array && D::array && D::dense && requires { b.stride0; dst.stride0; }) {
-            const i32 done = leadingProducts<order>(Operands<n, A, B, C, D>{a, b, c, dst}, count);
+        if constexpr (leadInWide<A, D>) {
+            const Operands<n, A, B, C, D> all{a, b, c, dst};
+            i32 done;
+            if constexpr (A::array) {
+                done = leadingSumsOfRows<order>(all, count);
+            } else {
+                done = leadingProducts<order>(all, count);
+            }
             if (done == count) return vokStatusOk;
-            b = b.from(done), dst = dst.from(done);
+            a = a.from(done), b = b.from(done), dst = dst.from(done);
             if constexpr (isAddend<C>) c = c.from(done);
             count -= done;
         }
