@@ -1,53 +1,12 @@
 // Refused calls: the order of the checks, by every pair of simultaneous faults, and what a refusal must leave alone.
+#include "harness/faults.h"
 #include "harness/groups.h"
-#include "harness/threads.h"
 
 using namespace harness;
 
 namespace {
 
-struct Fault {
-    std::string param;
-    bool null = false;
-    int32_t value = 0;
-};
-
 bool endsIn(const std::string& text, const char* part) { return text.find(part) != std::string::npos; }
-
-std::vector<Fault> faultsOf(const Function& function, const Job& job)
-{
-    std::vector<Fault> faults;
-    int32_t size = function.elementSize();
-    for (const Param& param : function.params()) {
-        auto add = [&](std::initializer_list<int32_t> values) {
-            for (int32_t value : values) {
-                faults.push_back({param.name, false, value});
-            }
-        };
-        if (param.kind == ParamClass::pointer) {
-            faults.push_back({param.name, true, 0});
-        } else if (endsIn(param.name, "Stride")) {
-            add({0, -size, size + size / 2, size + 1});
-        } else if (endsIn(param.name, "ObjShift")) {
-            add({-size, size / 2, size + 1});
-        } else if (param.kind == ParamClass::integer) {
-            add({0, -1});
-            if (param.name != "count") {
-                add({job.arguments.integers.at(param.name) + 1});  // a mismatch, where sizes have to agree
-            }
-        }
-    }
-    return faults;
-}
-
-void apply(const Fault& fault, Arguments& arguments)
-{
-    if (fault.null) {
-        arguments.pointers[fault.param] = nullptr;
-    } else {
-        arguments.integers[fault.param] = fault.value;
-    }
-}
 
 // A fault that the checks let pass may run only where it cannot leave the arena.
 bool harmless(const Fault& fault, int count)
@@ -69,19 +28,15 @@ protected:
         }
         int32_t expected = expectedRefusal(job.function, job.arguments);
         std::string problem;
-        if (expected != 0 || runs) {
+        if (expected != 0) {
+            problem = checkRefusal(job, expected);
+        } else if (runs) {
             int32_t status = job.runLibrary();
-            if (status != expected && !(expected == 0 && job.function.mergesStatus)) {
-                problem = what + ": status " + std::to_string(status) + " instead of " + std::to_string(expected);
-            } else if (expected != 0 && threadQuestions() != 0) {
-                problem = what + ": asked for threads";
-            } else if (expected != 0 && std::memcmp(job.arena.live(), job.arena.model(), job.arena.size()) != 0) {
-                problem = what + ": wrote to memory";
-            }
+            problem = status == 0 || job.function.mergesStatus ? "" : "status " + std::to_string(status);
         }
         job.arguments = good;
         std::memcpy(job.arena.live(), job.arena.model(), job.arena.size());
-        return problem;
+        return problem.empty() ? "" : what + ": " + problem;
     }
 };
 

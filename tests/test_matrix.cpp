@@ -5,6 +5,7 @@
 #include "harness/expression.h"
 #include "harness/groups.h"
 #include "harness/patterns.h"
+#include "harness/promises.h"
 
 using namespace harness;
 
@@ -80,25 +81,6 @@ TEST_P(Matrices, AlignedRows)
     }
 }
 
-// Square sizes that may be computed onto an operand. Products: pointer kernels read an object whole before they store, and
-// some dense kernels of 32f finish with a row of the first operand, or hold the second, before they store.
-std::string sizesInPlace(const Function& function, const std::string& kernel, const ArgSpec& source)
-{
-    if (function.family != "vokmMul" || function.form.find('c') != std::string::npos) {
-        return source.letter == 'm' && source.array == function.array ? "12345678" : "";
-    }
-    if (function.form.find('v') != std::string::npos) {
-        return "";
-    }
-    if (kernel == "_P" && source.array == function.array) {
-        static const std::set<std::string> threes = {"mam", "mat", "tam"};
-        return !function.isDouble && threes.count(function.form) ? "3" : "3456";
-    }
-    static const std::set<std::string> byRows = {"mm", "mam", "mma", "mama"};
-    bool dense = kernel == "" && !function.isDouble && byRows.count(function.form);
-    return !dense ? "" : source.name == "src1" ? "345" : "34";
-}
-
 TEST_P(Matrices, InPlace)
 {
     for (const Function* function : functions()) {
@@ -122,8 +104,7 @@ TEST_P(Matrices, InPlace)
                 spec.patterns["dst"] = shared;
                 spec.overlay["dst"] = {source.name, 0};
                 Job job(*function, spec);
-                bool promised = sizesInPlace(*function, job.kernel, source).find(char('0' + n)) != std::string::npos;
-                if (promised && !report(job.check())) {
+                if (matrixMayBeInPlace(*function, job.kernel, source, n) && !report(job.check())) {
                     return;
                 }
             }

@@ -7,6 +7,7 @@
 #include "harness/dense.h"
 #include "harness/groups.h"
 #include "harness/patterns.h"
+#include "harness/promises.h"
 
 using namespace harness;
 
@@ -380,20 +381,9 @@ TYPED_TEST(Solvers, PlanesAreAsIfOneByOne)
     }
 }
 
-// Where the destination may lie on a source, at the sizes where that is promised.
-struct InPlace {
-    const char *group, *source;
-    int from, to;
-};
-const InPlace promised[] = {{"vokmLUDecomp_m", "src", 1, 12}, {"vokmLUDecomp_ma", "src", 1, 12},
-    {"vokmLUBackSubst_mv", "src2", 3, 6}, {"vokmLUBackSubst_mva", "src2", 3, 6}, {"vokmLUBackSubst_mava", "src2", 3, 6},
-    {"vokmInvert_m", "src", 3, 5}, {"vokmInvert_ma", "src", 3, 5}, {"vokmCholeskyDecomp_m", "src", 1, 12},
-    {"vokmCholeskyDecomp_ma", "src", 1, 12}, {"vokmCholeskyBackSubst_mv", "src2", 1, 12},
-    {"vokmCholeskyBackSubst_mava", "src2", 1, 12}, {"vokmQRBackSubst_mv", "src2", 1, 12}};
-
 TEST(SolversInPlace, WhereItIsPromised)
 {
-    for (const InPlace& promise : promised) {
+    for (const InPlace& promise : solversInPlace) {
         for (const Function* function : functionsOf(promise.group)) {
             for (int draw = 0; draw < 200; ++draw) {
                 JobSpec spec;

@@ -16,6 +16,9 @@ std::string Pattern::describe() const
     if (roundObject) {
         text << " round0 " << roundObject;
     }
+    if (steps[0]) {
+        text << " steps " << steps[0] << " " << steps[1] << " " << steps[2];
+    }
     return text.str();
 }
 
@@ -46,6 +49,11 @@ int64_t Operand::lay(const Pattern& pattern, Random&)
         if (extent > 1 || loop != 'r') {  // a vector has no rows to pad
             step = step * extent + (dense ? 0 : int64_t(pattern.pad) * elementSize);
         }
+    }
+    if (pattern.steps[0] && !dense) {
+        stride0 = int64_t(pattern.steps[0]) * elementSize;
+        stride1 = int64_t(pattern.steps[1]) * elementSize;
+        stride2 = int64_t(pattern.steps[2]) * elementSize;
     }
     return (shape.objects - 1) * stride0 + (shape.rows - 1) * stride1 + (shape.cols - 1) * stride2 + elementSize;
 }

@@ -25,6 +25,7 @@ struct Pattern {
     int align = 0;        // bytes, address of the first element mod 64
     int shift = 0;        // objShift in elements
     char sequence = 'a';  // of tables and lists: a ascending, r reversed, s shuffled
+    int steps[3] = {};    // from object to object, row to row, element to element, in place of all that if not 0: may overlap
     std::string describe() const;
 };
 

@@ -78,6 +78,9 @@ private:
 
     static T hypotenuse(T u, T v)
     {
+        if (u != u || v != v) {
+            return u + v;
+        }
         T w = std::max(u, v), least = std::min(u, v);
         if (least < safmin) {
             return w;
