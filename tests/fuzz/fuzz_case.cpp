@@ -74,11 +74,15 @@ private:
     }
 
     bool isEigen() const { return function.family.find("Eigen") != std::string::npos; }
+    bool hasMatrices() const
+    {
+        return std::any_of(
+            function.args.begin(), function.args.end(), [](const ArgSpec& arg) { return arg.letter == 'm' || arg.letter == 't'; });
+    }
     bool isCubic() const
     {
         static const std::set<std::string> linear = {"vokmTranspose", "vokmCopy", "vokmExtract", "vokmLoadIdentity"};
-        return !linear.count(function.family) && std::any_of(function.args.begin(), function.args.end(),
-                                                     [](const ArgSpec& arg) { return arg.letter == 'm' || arg.letter == 't'; });
+        return hasMatrices() && !linear.count(function.family);
     }
 
     int chooseSize()
@@ -111,15 +115,19 @@ private:
         }
     }
 
-    // About what the slow evaluation does for one object.
-    double workOfOne() const
+    double largestSize() const
     {
         double largest = 1;
         for (auto& [name, value] : spec.sizes) {
             largest = name == "count" ? largest : std::max(largest, double(value));
         }
-        return isCubic() ? largest * largest * largest * (isEigen() ? 20 : 1) : largest * largest;
+        return largest;
     }
+    double elementsOfOne() const { return largestSize() * (hasMatrices() ? largestSize() : 1); }
+    // About what the slow evaluation does for one object.
+    double workOfOne() const { return elementsOfOne() * (isCubic() ? largestSize() : 1) * (isEigen() ? 3 : 1); }
+    // The search for overlaps looks at pairs of elements.
+    bool isSmall() const { return (function.array ? spec.sizes.at("count") : 1) * elementsOfOne() <= 1000; }
 
     void chooseCount()
     {
@@ -129,7 +137,7 @@ private:
         if (!function.array) {
             return;
         }
-        const int most = std::max(1, int(600000 / workOfOne()));
+        const int most = std::max(1, int(60000 / workOfOne()));
         spec.sizes["count"] = std::min(most, 1 + choice % 32);
         if (choice >= 240 && function.wrapper) {
             int low = 0, high = 4096;  // serial at low, parallel at high
@@ -137,7 +145,7 @@ private:
                 spec.sizes["count"] = (low + high) / 2;
                 (wantsThreads(function, spec.sizes) ? high : low) = spec.sizes["count"];
             }
-            spec.sizes["count"] = std::min({most, 3000, std::max(1, high + choice % 8 - 3)});
+            spec.sizes["count"] = std::min({4 * most, 3000, std::max(1, high + choice % 8 - 3)});
         }
     }
 
@@ -168,7 +176,7 @@ private:
             if (departs % 4 == 2) {
                 own.align = departs / 4 % (64 / function.elementSize()) * function.elementSize();
             }
-            if (departs >= 240) {
+            if (departs >= 240 && isSmall()) {
                 mayOverlap = true;
                 for (int& step : own.steps) {
                     step = 1 + choices.below(16);
@@ -190,7 +198,7 @@ private:
                 (arg.written ? results : sources).push_back(&arg);
             }
         }
-        if (sources.empty() || results.empty() || (function.array && spec.sizes["count"] > 100)) {
+        if (sources.empty() || results.empty() || !isSmall()) {
             return;
         }
         const ArgSpec& source = *sources[choice / 4 % sources.size()];
