@@ -28,7 +28,7 @@ template <int lanes> VOKM_WIDE_INLINE void storeFirst(double* to, const WidePack
     _mm512_mask_storeu_pd(to, (1u << lanes) - 1, __m512d(v));
 }
 
-/// Whether any lane of a map is found in the source.
+/// Whether a map picks any lane from the source.
 template <class Map, int N> constexpr bool picksFrom(int source)
 {
     for (int l = 0; l < N; ++l) {
@@ -36,26 +36,37 @@ template <class Map, int N> constexpr bool picksFrom(int source)
     }
     return false;
 }
-/// Lane l takes what of(l) says, counted over the lanes of all sources. A permute of one source that leaves other lanes alone
-/// costs a fraction of a permute of two.
-template <class Map, int source, bool first, class V, int K, int... l>
+/// How many of the sources a map picks from.
+template <class Map, int N> constexpr int sourcesOf(int K)
+{
+    int used = 0;
+    for (int s = 0; s < K; ++s) used += picksFrom<Map, N>(s);
+    return used;
+}
+/// Lane l takes what of(l) says, counted over the lanes of all sources: a permute of one source, or of two for each one more, the
+/// first two at once.
+template <class Map, int source, int seen, class V, int K, int... l>
 VOKM_INLINE void pickLanes(V& to, const V (&from)[K], std::integer_sequence<int, l...> lanes)
 {
     constexpr int N = lanesIn<V>;
     constexpr bool used = picksFrom<Map, N>(source);
     if constexpr (used) {
-        const V own = __builtin_shufflevector(from[source], from[source], Map::of(l) % N...);
-        if constexpr (first) {
-            to = own;
+        if constexpr (sourcesOf<Map, N>(K) == 1) {
+            to = __builtin_shufflevector(from[source], from[source], Map::of(l) % N...);
+        } else if constexpr (seen == 0) {
+            to = from[source];
         } else {
-            to = __builtin_shufflevector(to, own, (Map::of(l) / N == source ? N + l : l)...);
+            to = __builtin_shufflevector(to, from[source],
+                (Map::of(l) / N == source                  ? N + Map::of(l) % N
+                    : seen == 1 && Map::of(l) / N < source ? Map::of(l) % N
+                                                           : l)...);
         }
     }
-    if constexpr (source + 1 < K) pickLanes<Map, source + 1, first && !used>(to, from, lanes);
+    if constexpr (source + 1 < K) pickLanes<Map, source + 1, seen + used>(to, from, lanes);
 }
 template <class Map, class V, int K> VOKM_INLINE void pick(V& to, const V (&from)[K])
 {
-    pickLanes<Map, 0, true>(to, from, std::make_integer_sequence<int, lanesIn<V>>{});
+    pickLanes<Map, 0, 0>(to, from, std::make_integer_sequence<int, lanesIn<V>>{});
 }
 
 }  // namespace vokm
