@@ -37,18 +37,18 @@ TEST_P(Results, EveryLayoutAndSize)
 }
 
 // Arrays that fill the widest registers many times over: without gaps between the objects, at any alignment of either side,
-// within the cache and past it.
+// within the cache and past it, and with a plane for each element.
 TEST_P(Results, LongArrays)
 {
     for (const Function* function : functions()) {
-        const bool mayBeWide = function->array && function->layout() == 'S' && Oracle::find(function->group());
-        for (int draw = 0; draw < 20 && mayBeWide; ++draw) {
+        const bool mayBeWide = function->array && function->layout() != 'L' && Oracle::find(function->group());
+        for (int draw = function->layout() == 'S' ? 0 : 12; draw < 20 && mayBeWide; ++draw) {
             JobSpec spec;
             spec.seed = seedOf(*function, 7000 + draw);
             Random random(spec.seed);
             const bool past = draw < 8;
             spec.sizes = equalSizes(*function, 3 + draw % 4, past ? 3000 + int(random() % 100) : 60 + int(random() % 600));
-            drawPatterns(spec, *function, Style::tight, random);
+            drawPatterns(spec, *function, function->layout() == 'P' || draw >= 16 ? Style::planes : Style::tight, random);
             spec.values = drawValues(random);
             setCacheBytes(past ? 4096 : 0);
             if (!report(Job(*function, spec).check())) {
