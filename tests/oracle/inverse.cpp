@@ -342,28 +342,41 @@ private:
     }
 
     // At size 4 even what is multiplied with what is free: where some order may overflow, so is the result.
-    bool mayOverflow(const Grid<Bounded<T>>& a) const
+    bool mayOverflow(double largest) const
+    {
+        return !(std::pow(largest, n) * 1000 < double(std::numeric_limits<T>::max()));
+    }
+
+    static double largestOf(const Grid<Bounded<T>>& a)
     {
         double largest = 0;
-        for (int e = 0; e < n * n; ++e) {
-            largest = std::max(largest, magnitude(a(e / n, e % n).value));
+        for (int r = 0; r < a.rows; ++r) {
+            for (int c = 0; c < a.cols; ++c) {
+                largest = std::max(largest, magnitude(a(r, c).value));
+            }
         }
-        return !(std::pow(largest, n) * 1000 < double(std::numeric_limits<T>::max()));
+        return largest;
     }
 
     Outcome laplace(const Grid<Bounded<T>>& a, double limitOfForm)
     {
-        if (n == 4 && mayOverflow(a)) {
+        const double largest = n == 4 ? largestOf(a) : 0;
+        if (n == 4 && mayOverflow(largest)) {
             for (int e = 0; e < n * n; ++e) {
                 inverse(e / n, e % n) = {0, HUGE_VAL};
             }
             return unclear;
         }
-        Bounded<T> det = minors(a, allBut(n, -1)).back(), r = reciprocal(det);
+        // And any product of two elements may be lost below the smallest number.
+        const double lost = 24 * largest * double(std::numeric_limits<T>::denorm_min());
+        Bounded<T> det = minors(a, allBut(n, -1)).back();
+        det.error += 4 * lost * largest;
+        Bounded<T> r = reciprocal(det);
         for (int j = 0; j < n; ++j) {
             std::vector<Bounded<T>> minor = minors(a, allBut(n, j));
             for (int i = 0; i < n; ++i) {
                 Bounded<T> entry = minor[((1 << n) - 1) ^ (1 << i)];
+                entry.error += lost;
                 inverse(j, i) = ((i + j) % 2 ? Bounded<T>(0) - entry : entry) * r;
             }
         }
