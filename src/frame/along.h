@@ -19,10 +19,15 @@ namespace vokm {
 VOKM_INLINE bool wideRegisters() { return __builtin_cpu_supports("avx2"); }
 VOKM_INLINE bool widestRegisters() { return __builtin_cpu_supports("avx512f"); }
 
+// VOKM_WIDEST_TEXT stands before what is inlined into functions of the widest registers: g++ takes comparisons and intrinsics
+// apart for the target of the text that they stand in, while clang++ takes a call between texts of different targets for one
+// of different ABIs.
 #ifdef __clang__
 #define VOKM_WIDEST "avx512f"
+#define VOKM_WIDEST_TEXT
 #else
 #define VOKM_WIDEST "avx512f,prefer-vector-width=512"
+#define VOKM_WIDEST_TEXT [[gnu::target(VOKM_WIDEST)]]
 #endif
 
 // The step comes by address and is copied here, field by field: a copy as a whole would wait for the stores of its fields.

@@ -31,8 +31,7 @@ template <Variant variant, class A> struct WideTransform {
     float* to;
     decltype(V{} > V{}) bad{};
 
-    // g++ takes comparisons apart for the target of the text that they stand in.
-    template <bool past> [[gnu::target(VOKM_WIDEST)]] VOKM_INLINE void objects(i64 i)
+    template <bool past> VOKM_WIDEST_TEXT VOKM_INLINE void objects(i64 i)
     {
         V p[1][3], d[3];
         points.template load<past>(p[0], i);

@@ -62,12 +62,22 @@ template <Order order, int n, class A, class B>
     return i;
 }
 
+template <class V> VOKM_WIDEST_TEXT VOKM_INLINE V wideRoot(V x)
+{
+#ifdef __clang__
+    for (int k = 0; k < wideLanes<double>; ++k) x[k] = std::sqrt(x[k]);
+    return x;
+#else
+    return V(_mm512_sqrt_pd(__m512d(x)));
+#endif
+}
+
 /// Dot products or norms of vectors of three that follow one another, in the widest packs: the products of whole registers are
 /// formed before they are turned into lanes.
 template <Order order, bool norms> struct WideThrees {
     const double *x, *y;
     double* dst;
-    template <bool past> [[gnu::target(VOKM_WIDEST)]] VOKM_INLINE void objects(i64 i) const
+    template <bool past> VOKM_WIDEST_TEXT VOKM_INLINE void objects(i64 i) const
     {
         using V = WidePack<double>;
         V products[3], p[3];
@@ -80,7 +90,7 @@ template <Order order, bool norms> struct WideThrees {
         }
         turnWide<PickElement, 0>(products, p);
         V s = sum<order>(p);
-        if constexpr (norms) s = V(_mm512_sqrt_pd(__m512d(s)));
+        if constexpr (norms) s = wideRoot(s);
         if constexpr (past) {
             storePastCache<V>(dst + i, s);
         } else {
