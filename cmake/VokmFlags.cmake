@@ -29,7 +29,9 @@ set(VOKM_SANITIZE "" CACHE STRING "Sanitizers for everything that is built, e.g.
 if(VOKM_SANITIZE)
     add_compile_options(-fsanitize=${VOKM_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${VOKM_SANITIZE})
-    # clang++ gives the sanitizer's runtime to programs only. A shared library has to be linked without it, and this stands at
+endif()
+if(VOKM_SANITIZE OR VOKM_BUILD_FUZZER)
+    # clang++ gives the sanitizer's and the fuzzer's runtime to programs only. A shared library has to be linked without it, and this stands at
     # the end of the line, behind the library's own wish for no undefined symbols.
     string(APPEND CMAKE_CXX_STANDARD_LIBRARIES " -Wl,-z,undefs")
 endif()
