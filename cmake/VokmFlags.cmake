@@ -31,7 +31,7 @@ if(VOKM_SANITIZE)
     add_link_options(-fsanitize=${VOKM_SANITIZE})
 endif()
 if(VOKM_SANITIZE OR VOKM_BUILD_FUZZER)
-    # clang++ gives the sanitizer's and the fuzzer's runtime to programs only. A shared library has to be linked without it, and this stands at
-    # the end of the line, behind the library's own wish for no undefined symbols.
+    # clang++ gives the runtimes of sanitizers and fuzzer to programs only. A shared library has to be linked without them, and
+    # this stands at the end of the line, behind the library's own wish for no undefined symbols.
     string(APPEND CMAKE_CXX_STANDARD_LIBRARIES " -Wl,-z,undefs")
 endif()

@@ -98,14 +98,15 @@ private:
                 return false;  // it may be read for each element or once
             }
             const bool inBlocks = job.kernel == "_L" && withConstant;
-            const bool elementwise = !isStraight() && !inBlocks && (!function.array || inTurn(result, other));
+            const bool elementwise = !isStraight() && !inBlocks && inTurn(result, other);
             return same || function.family == "vokmCrossProduct" || elementwise;
         }
         return same ? exact(from, result.operand->logicalCols()) : to.kind == ArgKind::scalars && !isOf({"vokmTrace"});
     }
 
-    // Objects whole elements apart are finished one after the other. The general eigenproblems promise nothing, and results
-    // that are held to a bound are compared with what the library left in memory.
+    // Objects, and elements of long vectors, are finished one after the other. Parts of elements are left out: the bytes of a
+    // not-a-number would be read as parts of others, and they are nobody's promise. The general eigenproblems promise nothing,
+    // and results that are held to a bound are compared with what the library left in memory.
     bool inTurn(const Element& result, const Element& other) const
     {
         const bool general = function.family.rfind("vokmEigenValues", 0) == 0 && function.family.find("Sym") == std::string::npos;
