@@ -4,6 +4,8 @@
 #include <limits>
 #include <random>
 
+#include <vokm>
+
 #include "harness/dense.h"
 #include "harness/groups.h"
 #include "harness/patterns.h"
@@ -400,6 +402,32 @@ TEST(SolversInPlace, WhereItIsPromised)
             }
         }
     }
+}
+
+// A row that a pivot names beyond n is the caller's affair: tables with more rows than n give what strides give.
+TEST(SolversOfTables, PivotsAreUsedAsTheyAre)
+{
+    constexpr int n = 3, rows = 5, count = 9;
+    std::vector<float> a(count * rows * n), b(count * rows), byStride(count * n), byTable(count * n);
+    std::mt19937 random(3);
+    for (float& x : a) x = float(random() % 19 + 1);
+    for (float& x : b) x = float(random() % 19 + 1);
+    std::vector<const float*> ta, tb;
+    std::vector<float*> td;
+    for (int e = 0; e < rows * n; ++e) ta.push_back(&a[e]);
+    for (int e = 0; e < rows; ++e) tb.push_back(&b[e]);
+    for (int e = 0; e < n; ++e) td.push_back(&byTable[e]);
+    std::vector<int32_t> pivot;
+    for (int i = 0; i < count; ++i) pivot.insert(pivot.end(), {0, 4, 3});
+    constexpr int oneA = rows * n * 4, oneB = rows * 4, oneD = n * 4;
+    const auto same = [&] { return std::equal(byStride.begin(), byStride.end(), byTable.begin(), sameBits<float>); };
+
+    vokmLUBackSubst_mva_32f(a.data(), n * 4, 4, pivot.data(), b.data(), oneB, 4, byStride.data(), oneD, 4, n, count);
+    vokmLUBackSubst_mva_32f_P(ta.data(), 0, pivot.data(), tb.data(), 0, oneB, td.data(), 0, oneD, n, count);
+    EXPECT_TRUE(same());
+    vokmLUBackSubst_mava_32f(a.data(), oneA, n * 4, 4, pivot.data(), b.data(), oneB, 4, byStride.data(), oneD, 4, n, count);
+    vokmLUBackSubst_mava_32f_P(ta.data(), 0, oneA, pivot.data(), tb.data(), 0, oneB, td.data(), 0, oneD, n, count);
+    EXPECT_TRUE(same());
 }
 
 }  // namespace

@@ -89,7 +89,7 @@ template <int n, class T, class S, class B, class D>
             spread.solve(x[0]);
             store(x, to, i);
         } else {
-            solveOne(one, from.object(i, shape), p, to.object(i, shape));
+            solveOne(one, src2.object(i, shape), p, to.object(i, shape));
         }
     });
     return vokStatusOk;
@@ -134,6 +134,17 @@ template <class V, int n, class B> VOKM_INLINE void loadOrdered(V (&b)[n], const
     }
 }
 
+/// Nothing tests that pivots lie below n: one beyond is a further row of the caller's. A pinned view of a pointer table holds
+/// n rows, so such arrays go one by one, by the table itself.
+template <class S, int n> VOKM_INLINE bool withinPinned(const i32* pivot, i32 count)
+{
+    bool within = true;
+    if constexpr (!std::is_same_v<S, Pinned<n, n, S>>) {
+        for (i64 i = 0; i < i64(count) * n; ++i) within = within && pivot[i] >= 0 && pivot[i] < n;
+    }
+    return within;
+}
+
 /// As many matrices as vectors.
 template <int n, class T, class S, class B, class D>
 [[gnu::noinline]] vokStatus solvePairs(S src, const i32* pivot, B src2, D dst, i32 count)
@@ -143,8 +154,9 @@ template <int n, class T, class S, class B, class D>
     const auto guard = lazyGuard<T>(count, [&]() VOKM_INLINE_LAMBDA {
         return packGuard(count, Shaped<D>{dst, vector}, Shaped<S>{src, square}, Shaped<B>{src2, vector});
     });
+    const bool packs = withinPinned<S, n>(pivot, count);
     const auto run = [&](auto matrices, auto from, auto to) VOKM_INLINE_LAMBDA {
-        walkGuarded<T>(count, guard, [&](auto as, i32 i) VOKM_INLINE_LAMBDA {
+        walkGuarded<T>(count, [&](i32 i) VOKM_INLINE_LAMBDA { return packs && guard(i); }, [&](auto as, i32 i) VOKM_INLINE_LAMBDA {
             const i32* p = pivot + i64(i) * n;
             if constexpr (isPack<typename decltype(as)::type>) {
                 Factors<V, n> factors;
@@ -154,7 +166,7 @@ template <int n, class T, class S, class B, class D>
                 factors.solve(x[0]);
                 store(x, to, i);
             } else {
-                solveSingle<n, T>(matrices.object(i, square), from.object(i, vector), p, to.object(i, vector));
+                solveSingle<n, T>(src.object(i, square), src2.object(i, vector), p, to.object(i, vector));
             }
         });
         return vokStatusOk;
