@@ -4,6 +4,8 @@
 #include <limits>
 #include <random>
 
+#include <vokm>
+
 #include "harness/dense.h"
 #include "harness/groups.h"
 
@@ -200,6 +202,32 @@ TEST(EigenBuffers, SizesAreTruncated)
     arguments.pointers = {{"bufSize", &size}};
     ASSERT_EQ(call("vokmEigenValuesVectorsGetBufSize_64f", arguments), 0);
     EXPECT_EQ(size, int32_t(uint32_t((3 * 40000ull + 5) * 40000 * 8)));
+}
+
+// A result that lands on the source of a later object is read as that source, by arrays as by one call an object.
+TEST(EigenOverlap, ObjectsAreFinishedInTurn)
+{
+    constexpr int n = 4, count = 7, size = n * n, strides[] = {size * 8, n * 8, 8};
+    std::mt19937 random(6);
+    std::vector<double> elements(3 * count * size), buffer(200), elsewhere(count * size);
+    for (double& x : elements) x = std::uniform_real_distribution<>(-1, 1)(random);
+    const auto values = [&](double* src, double* dst, int number) {
+        return vokmEigenValues_ma_64f(src, strides[0], strides[1], strides[2], dst, &elsewhere[0], n, number, &buffer[0]);
+    };
+    const auto vectors = [&](double* src, double* dst, int number) {
+        return vokmEigenValuesVectorsLeft_ma_64f(src, strides[0], strides[1], strides[2], dst, strides[0], strides[1],
+            strides[2], &elsewhere[0], &elsewhere[count * n], n, number, &buffer[0]);
+    };
+    for (int distance = 1; distance <= 2 * size; ++distance) {
+        auto whole = elements, inTurn = elements;
+        ASSERT_EQ(values(&whole[0], &whole[distance], count), 0);
+        for (int k = 0; k < count; ++k) values(&inTurn[k * size], &inTurn[k * n + distance], 1);
+        EXPECT_EQ(whole, inTurn) << "values, " << distance;
+        whole = inTurn = elements;
+        ASSERT_EQ(vectors(&whole[0], &whole[distance], count), 0);
+        for (int k = 0; k < count; ++k) vectors(&inTurn[k * size], &inTurn[k * size + distance], 1);
+        EXPECT_EQ(whole, inTurn) << "vectors, " << distance;
+    }
 }
 
 }  // namespace

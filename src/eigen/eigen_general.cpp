@@ -26,22 +26,28 @@ VOKM_INLINE vokStatus valuesOfEach(const A& src, T* re, T* im, i32 from, i32 to,
     return vokStatusOk;
 }
 
-/// Packs, as long as there are whole ones. A pack in which a lane does not come to its end is done again one by one.
+/// The pack of objects from k on; false if a lane does not come to its end.
+template <int n, class T, class A> VOKM_INLINE bool valuesOfPack(const A& src, T* re, T* im, i32 k)
+{
+    Pack<T> tile[n][n], rows[2 * n];
+    PackValues<T, n> values;
+    copyPackIn(src, k, tile);
+    if (valuesOf(Square<Pack<T>, Fixed<n>>{&tile[0][0], {}}, rows, values.re, values.im)) return false;
+    for (int l = 0; l < packLanes<T>; ++l) values.copyLane(l, re + i64(k + l) * n, im + i64(k + l) * n);
+    return true;
+}
+
+/// Packs, as long as there are whole ones. What a pack cannot do is done one by one.
 template <int n, class T, class A> VOKM_INLINE vokStatus valuesOfPacks(const A& src, T* re, T* im, i32 count)
 {
     constexpr i32 L = packLanes<T>;
     T one[n * n], rows[2 * n];
     const Square<T, Fixed<n>> h{one, {}};
+    const auto guard = lazyGuard<T>(count, [&]() VOKM_INLINE_LAMBDA { return generalGuard(n, count, src, re, im); });
     i32 k = 0;
     for (; k + L <= count; k += L) {
-        Pack<T> tile[n][n], packRows[2 * n];
-        PackValues<T, n> values;
-        copyPackIn(src, k, tile);
-        if (valuesOf(Square<Pack<T>, Fixed<n>>{&tile[0][0], {}}, packRows, values.re, values.im) == vokStatusOk) {
-            for (int l = 0; l < L; ++l) values.copyLane(l, re + i64(k + l) * n, im + i64(k + l) * n);
-        } else if (const vokStatus status = valuesOfEach(src, re, im, k, k + L, h, rows)) {
-            return status;
-        }
+        if (guard(k) && valuesOfPack<n>(src, re, im, k)) continue;
+        if (const vokStatus status = valuesOfEach(src, re, im, k, k + L, h, rows)) return status;
     }
     return valuesOfEach(src, re, im, k, count, h, rows);
 }

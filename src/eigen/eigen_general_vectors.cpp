@@ -118,18 +118,31 @@ template <class T, class A, class R, class L> struct EigenvectorCall {
         return {false, vokStatusOk};
     }
 
-    /// The quasi-triangular form for packs, as long as there are whole ones; the vectors lane by lane. A pack in which a lane
-    /// does not come to its end is done again one by one.
+    VOKM_INLINE auto guard(i32 n, i32 count) const
+    {
+        if constexpr (!wanted<R>) {
+            return generalGuard(n, count, src, re, im, left);
+        } else if constexpr (!wanted<L>) {
+            return generalGuard(n, count, src, re, im, right);
+        } else {
+            return generalGuard(n, count, src, re, im, right, left);
+        }
+    }
+
+    /// The quasi-triangular form for packs, as long as there are whole ones; the vectors lane by lane. A pack that cannot be read
+    /// at once, or in which a lane does not come to its end, is done one by one.
     template <int n> VOKM_INLINE vokStatus packs(i32 count, GeneralWork<T, Fixed<n>> work) const
     {
         constexpr i32 lanes = packLanes<T>;
+        const auto atOnce = lazyGuard<T>(count, [&]() VOKM_INLINE_LAMBDA { return guard(n, count); });
         i32 k = 0;
         for (; k + lanes <= count; k += lanes) {
             Pack<T> tile[n][n], orthogonal[n][n], rows[2 * n];
             PackValues<T, n> values;
             const Square<Pack<T>, Fixed<n>> h{&tile[0][0], {}}, z{&orthogonal[0][0], {}};
-            copyPackIn(src, k, tile);
-            if (quasiTriangular(h, z, rows, work.smallest, values.re, values.im)) {
+            const bool safe = atOnce(k);
+            if (safe) copyPackIn(src, k, tile);
+            if (!safe || quasiTriangular(h, z, rows, work.smallest, values.re, values.im)) {
                 if (const Outcome end = each(k, k + lanes, work); end.leaves) return end.status;
                 continue;
             }

@@ -2,7 +2,10 @@
 // or a pack of them, and eigenvalues of a pack go to their objects.
 #pragma once
 
+#include <tuple>
+
 #include "hessenberg.h"
+#include "values_view.h"
 
 namespace vokm {
 
@@ -20,6 +23,20 @@ template <int n, class V, class View> VOKM_INLINE void copyPackIn(const View& sr
         if (src.contiguous()) return load(tile, src.asDense(), k);
     }
     load(tile, src, k);
+}
+
+/// Whether the pack from an object on may be read before the first of its results is written. `results`: of each object, in
+/// the shape of the operand.
+template <class T, class S, class... D>
+VOKM_INLINE auto generalGuard(i32 n, i32 count, const S& src, T* re, T* im, const D&... results)
+{
+    const Shaped<S> from{src, {n, n}};
+    const auto toRe = valuesAt(re, n), toIm = valuesAt(im, n);
+    const bool apart = wholesApart(count, toRe, toIm);
+    const std::tuple guards{packGuard(count, toRe, from), packGuard(count, toIm, from), packGuard(count, Shaped<D>{results, {n, n}}, from)...};
+    return [=](i32 k) VOKM_INLINE_LAMBDA {
+        return apart && std::apply([k](const auto&... guard) { return (guard(k) && ...); }, guards);
+    };
 }
 
 /// The eigenvalues of a pack: element i of a lane at i*lanes + lane.

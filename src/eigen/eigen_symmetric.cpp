@@ -3,9 +3,9 @@
 
 #include "eigen_symmetric_small.h"
 #include "eigen_symmetric_steps.h"
+#include "values_view.h"
 
 #include "../frame/fixed.h"
-#include "../frame/overlap.h"
 
 namespace vokm {
 
@@ -54,8 +54,6 @@ VOKM_INLINE vokStatus solveObject(const S& src, const Vectors& vectors, T* matri
     return solveSingle<rules>(matrix, values, vectors, n);
 }
 
-template <class T> using ValuesView = StrideView<T, Code::va, true>;
-
 /// The pack of objects from i on; false if one of them fails, with nothing written.
 template <SymmetricRules rules, int n, class S, class D, class T>
 VOKM_INLINE bool solvePackAt(const S& src, const D& vectors, const ValuesView<T>& values, i32 i)
@@ -72,10 +70,9 @@ VOKM_INLINE bool solvePackAt(const S& src, const D& vectors, const ValuesView<T>
 /// Whether packs change nothing that a caller sees: results apart from later sources and from one another. The vectors are worked
 /// on in place, so their elements have to be distinct places.
 template <class S, class D, class T>
-VOKM_INLINE auto symmetricGuard(i32 n, i32 count, const S& src, const D& vectors, const ValuesView<T>& values)
+VOKM_INLINE auto symmetricGuard(i32 n, i32 count, const S& src, const D& vectors, const Shaped<ValuesView<T>>& to)
 {
     const Shaped<S> from{src, {n, n}};
-    const Shaped<ValuesView<T>> to{values, {1, n}};
     if constexpr (std::is_same_v<D, NoVectorOperand>) {
         return packGuard(count, to, from);
     } else {
@@ -100,13 +97,13 @@ VOKM_INLINE vokStatus symmetricObjects(S src, D vectors, T* matrix, T* values, i
     if constexpr (S::array) {
         constexpr i32 N = packLanes<T>;
         if (count >= N && n >= 3 && n <= 6) {
-            const ValuesView<T> packed{values, n * static_cast<i32>(sizeof(T)), 0, sizeof(T)};
+            const auto packed = valuesAt(values, n);
             const auto guard = symmetricGuard(n, count, src, vectors, packed);
             const auto pack = [&](i32 i) VOKM_INLINE_LAMBDA {
                 return onFixed(
                     n,
                     [&](auto size)
-                        VOKM_INLINE_LAMBDA { return solvePackAt<rules, decltype(size)::value>(src, vectors, packed, i); },
+                        VOKM_INLINE_LAMBDA { return solvePackAt<rules, decltype(size)::value>(src, vectors, packed.view, i); },
                     [] { return false; });
             };
             for (i32 i = 0; i < count; i += N) {
