@@ -105,13 +105,14 @@ private:
     }
 
     // Objects, and elements of long vectors, are finished one after the other. Parts of elements are left out: the bytes of a
-    // not-a-number would be read as parts of others, and they are nobody's promise. The general eigenproblems promise nothing,
-    // and results that are held to a bound are compared with what the library left in memory.
+    // not-a-number would be read as parts of others, and they are nobody's promise. Sums, scalings and products of matrices and the
+    // general eigenproblems promise nothing, and results held to a bound are compared with what the library left in memory.
     bool inTurn(const Element& result, const Element& other) const
     {
         const bool general = function.family.rfind("vokmEigenValues", 0) == 0 && function.family.find("Sym") == std::string::npos;
         const bool bounded = function.family == "vokmInvert" && written(other);
-        return !general && !bounded && (other.at - result.at) % function.elementSize() == 0;
+        const bool matrices = isOf({"vokmAdd", "vokmSub", "vokmMul", "vokmGaxpy"}) && !isVectors();
+        return !general && !bounded && !matrices && (other.at - result.at) % function.elementSize() == 0;
     }
 
     bool isVectors() const
