@@ -132,6 +132,14 @@ inline bool any(M mask)
     return lanesSet(mask) != 0;
 }
 
+/// Two elements at any address, in the lower half of a register.
+inline __m128 loadTwo(const float* from)
+{
+    double both;
+    std::memcpy(&both, from, sizeof both);
+    return _mm_castpd_ps(_mm_set_sd(both));
+}
+
 // Runs: elements that follow one another in memory, per object. A Fetch answers for them:
 //   four(lane, k)       a whole register from element k of that lane's object on
 //   pairs(a, b, k)      elements k, k+1 of two objects side by side (32f only)
@@ -141,8 +149,7 @@ template <class T> struct Fetch {
     VOKM_INLINE Pack<T> four(int lane, int k) const { return loadLanes<Pack<T>>(at[lane] + k); }
     VOKM_INLINE Pack<float> pairs(int a, int b, int k) const
     {
-        const __m128 low = _mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(at[a] + k)));
-        return Pack<float>(_mm_loadh_pi(low, reinterpret_cast<const __m64*>(at[b] + k)));
+        return Pack<float>(_mm_loadh_pi(loadTwo(at[a] + k), reinterpret_cast<const __m64*>(at[b] + k)));
     }
     VOKM_INLINE T one(int lane, int k) const { return at[lane][k]; }
 };

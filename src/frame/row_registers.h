@@ -12,7 +12,7 @@ template <class T, int n> constexpr int rowRegisters = (n + packLanes<T> - 1) / 
 template <int k> VOKM_INLINE Pack<float> loadPart(const float* from)
 {
     if constexpr (k == 1) return Pack<float>(_mm_load_ss(from));
-    const __m128 two = _mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(from)));
+    const __m128 two = loadTwo(from);
     if constexpr (k == 2) return Pack<float>(two);
     return Pack<float>(_mm_movelh_ps(two, _mm_load_ss(from + 2)));
 }
