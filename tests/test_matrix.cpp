@@ -2,6 +2,7 @@
 // tests or loop limits let them touch more than the objects of the call.
 #include <algorithm>
 
+#include "harness/dense.h"
 #include "harness/expression.h"
 #include "harness/groups.h"
 #include "harness/patterns.h"
@@ -224,6 +225,49 @@ TEST_F(OddKernels, TransposedArraysGoInTwos)
             report(job.check());
             bool stored = load<float>(behind) != before;
             EXPECT_EQ(stored, count % 2 == 1 && !*misplaced) << "count " << count << " misplaced " << misplaced;
+        }
+    }
+}
+
+// Rows of a general product that overlap show in which order it is stored: four rows a time, columns ascending; then the last
+// of an odd number of columns; then the rows that are left.
+template <class T> void overlappingRows(int rows, int inner, int cols)
+{
+    const int size = int(sizeof(T));
+    Random random(uint64_t(rows * 64 + cols));
+    std::vector<T> a(size_t(rows * inner)), b(size_t(inner * cols)), apart(size_t(rows * cols)), got(apart.size(), T(77)), wanted = got;
+    for (T& x : a) x = T(random() % 1000);
+    for (T& x : b) x = T(random() % 1000);
+    Arguments arguments;
+    arguments.integers = {{"src1Width", inner}, {"src1Height", rows}, {"src2Width", cols}, {"src2Height", inner},
+        {"src1Stride1", inner * size}, {"src2Stride1", cols * size}, {"dstStride1", cols * size}, {"src1Stride2", size},
+        {"src2Stride2", size}, {"dstStride2", size}};
+    arguments.pointers = {{"src1", a.data()}, {"src2", b.data()}, {"dst", apart.data()}};
+    const std::string name = named<T>("vokmMul_mm");
+    ASSERT_EQ(call(name, arguments), 0);
+    arguments.pointers["dst"] = got.data();
+    arguments.integers["dstStride1"] -= size;
+    ASSERT_EQ(call(name, arguments), 0);
+    auto put = [&](int r, int c) { wanted[size_t(r * (cols - 1) + c)] = apart[size_t(r * cols + c)]; };
+    const int whole = rows & ~3;
+    for (int r = 0; r < whole; r += 4) {
+        for (int c = 0; c < (cols & ~1); ++c) {
+            for (int i = 0; i < 4; ++i) put(r + i, c);
+        }
+    }
+    for (int r = 0; r < whole && cols % 2; ++r) put(r, cols - 1);
+    for (int c = 0; c < cols; ++c) {
+        for (int r = whole; r < rows; ++r) put(r, c);
+    }
+    EXPECT_EQ(got, wanted) << name << " " << rows << "x" << inner << "x" << cols;
+}
+
+TEST(GeneralProducts, AreStoredInTheOrderOfBlocks)
+{
+    for (int rows = 4; rows < 14; ++rows) {
+        for (int cols = 4; cols < 14; ++cols) {
+            overlappingRows<float>(rows, 7 + rows % 2, cols);
+            overlappingRows<double>(rows, 7 + rows % 2, cols);
         }
     }
 }
