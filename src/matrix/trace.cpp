@@ -5,12 +5,55 @@
 #include "../frame/fixed.h"
 #include "../frame/overlap.h"
 #include "../frame/sums.h"
+#include "../frame/wide_pack.h"
 
 namespace vokm {
 
 constexpr Order traceOrder(Variant variant)
 {
     return variant == Variant::S2 || variant == Variant::LS2 ? Order::lastTwoFirst : Order::chain;
+}
+
+/// 3x3 floats that follow one another: nine registers are 16 objects, and the diagonals are picked out of them. A load for each
+/// element would take longer than the sums.
+template <class T> struct WideTraces {
+    const T* src;
+    T* dst;
+    template <bool past> VOKM_WIDEST_TEXT VOKM_INLINE void objects(i64 i) const
+    {
+        using V = WidePack<T>;
+        V run[9];
+#pragma GCC unroll 9
+        for (int k = 0; k < 9; ++k) {
+            const T* at = src + i * 9 + k * wideLanes<T>;
+            if (past) fetchSource(at);
+            run[k] = loadLanes<V>(at);
+        }
+        V d[3] = {run[0], run[0], run[0]};
+        joinSources<PickElement, 9, 0, 1>(d[0], run);
+        joinSources<PickElement, 9, 4, 1>(d[1], run);
+        joinSources<PickElement, 9, 8, 1>(d[2], run);
+        const V s = sum<Order::chain>(d);
+        if constexpr (past) {
+            storePastCache<V>(dst + i, s);
+        } else {
+            storeLanes<V>(dst + i, s);
+        }
+    }
+};
+
+/// All objects, if they lie so and apart from the results; returns whether.
+template <class A, class D> VOKM_INLINE bool tracesWide(const A& src, const Shaped<D>& results, i32 count)
+{
+    using T = typename D::element;
+    if constexpr (sizeof(T) == 4 && mayBeTight<A>) {
+        if (count >= wideLanes<T> && widestRegisters() && isTight<3, 3>(src) && wholesApart(count, results, Shaped<A>{src, {3, 3}})) {
+            WideTraces<T> work{src.base, results.view.base};
+            overObjectsWide<1>(count, work.dst, i64(count) * 40, work);
+            return true;
+        }
+    }
+    return false;
 }
 
 template <Variant variant, class A, class T> VOKM_INLINE vokStatus traces(A src, Packed<T> dst, i32 n, i32 count)
@@ -31,11 +74,12 @@ template <Variant variant, class A, class T> VOKM_INLINE vokStatus traces(A src,
             }
             storeLanes(dst.base + i, sum<traceOrder(variant)>(d));
         };
+        using Results = StrideView<T, Code::va>;
+        const Shaped<Results> results{Results(dst.base, sizeof(T), 0, sizeof(T)), {1, 1}};
+        if (k == 3 && tracesWide(src, results, count)) return vokStatusOk;
         // Packs pay where the elements of neighbouring objects are neighbours; elsewhere each object has n loads in any case.
         if (count >= packLanes<T> && planar(src)) {
-            const StrideView<T, Code::va> results(dst.base, sizeof(T), 0, sizeof(T));
-            const auto guard =
-                packGuard(count, Shaped<StrideView<T, Code::va>>{results, {1, 1}}, Shaped<A>{src, shape});
+            const auto guard = packGuard(count, results, Shaped<A>{src, shape});
             walkGuarded<T>(count, guard, body);
         } else {
             // Several objects a turn: the sums are so short that the loop itself would take its share.
