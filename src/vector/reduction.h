@@ -160,7 +160,8 @@ template <class T, class Terms> inline T longSum(const Terms& terms, i32 n)
 {
     constexpr i32 N = packLanes<T>, block = 2 * N;
     const auto p = terms.term(0, n);
-    const auto address = reinterpret_cast<std::uintptr_t>(&terms.lead().object(0, Shape{1, n})(0, 0));
+    auto address = reinterpret_cast<std::uintptr_t>(&terms.lead().object(0, Shape{1, n})(0, 0));
+    asm("" : "+r"(address));  // a reference lets compilers take for granted what is asked here
     const i32 head = static_cast<i32>((16 - address % 16) % 16 / sizeof(T));
     if (address % sizeof(T) != 0 || n < head + block) return risingSum<T>(terms, 0, n);
     const auto lanes = [&](i32 j) {
