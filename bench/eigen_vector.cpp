@@ -75,7 +75,7 @@ template <class T> void threeVectors(Add add) {
          }});
 }
 
-[[maybe_unused]] void transforms(Add add) {
+[[maybe_unused]] static void transforms(Add add) {
     const auto row = [add](const char* how, void (*run)(const Operands&)) {
         add({"AffineTransform3DH_mva", 'f', 3, how, run});
     };
