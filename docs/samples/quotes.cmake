@@ -1,7 +1,7 @@
 cmake_minimum_required(VERSION 3.25)
 
 # cmake -D ROOT=... -P quotes.cmake: each block of C, C++ or CMake in README.md and docs/*.md has to be found in a file that is
-# built and run by a test.
+# built and run by a test, each link to a file has to lead to one, and each page in docs/ has to be one of the HTML too.
 file(GLOB samples ${ROOT}/docs/samples/*.c ${ROOT}/docs/samples/*.cpp ${ROOT}/tests/consumer/project/CMakeLists.txt)
 set(all "")
 foreach(sample IN LISTS samples)
@@ -10,9 +10,24 @@ foreach(sample IN LISTS samples)
 endforeach()
 file(GLOB pages ${ROOT}/README.md ${ROOT}/docs/*.md)
 set(blocks 0)
+file(STRINGS ${ROOT}/docs/CMakeLists.txt built REGEX "set\\(pages ")
 foreach(page IN LISTS pages)
     file(READ ${page} rest)
     string(PREPEND rest "\n")
+    cmake_path(GET page PARENT_PATH folder)
+    cmake_path(GET page FILENAME name)
+    if(folder MATCHES "/docs$" AND NOT built MATCHES " ${name}[ )]")
+        message(SEND_ERROR "${name} is no page of docs/CMakeLists.txt.")
+    endif()
+    string(REPLACE "](" "@(" linked "${rest}")
+    string(REGEX MATCHALL "@\\([^)#@]+" links "${linked}")
+    list(FILTER links EXCLUDE REGEX "://")
+    foreach(link IN LISTS links)
+        string(SUBSTRING ${link} 2 -1 link)
+        if(NOT EXISTS ${folder}/${link})
+            message(SEND_ERROR "${page}: no file ${link}")
+        endif()
+    endforeach()
     while(TRUE)
         # A block begins at the nearest of the fences.
         set(at -1)
