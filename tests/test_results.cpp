@@ -1,7 +1,6 @@
 // Results against the slow evaluation, bit for bit, with all memory between and around them.
 #include "harness/groups.h"
 #include "harness/patterns.h"
-#include "harness/threads.h"
 
 using namespace harness;
 
@@ -37,7 +36,7 @@ TEST_P(Results, EveryLayoutAndSize)
 }
 
 // Arrays that fill the widest registers many times over: without gaps between the objects, at any alignment of either side,
-// within the cache and past it, and with a plane for each element.
+// and with a plane for each element.
 TEST_P(Results, LongArrays)
 {
     for (const Function* function : functions()) {
@@ -46,16 +45,40 @@ TEST_P(Results, LongArrays)
             JobSpec spec;
             spec.seed = seedOf(*function, 7000 + draw);
             Random random(spec.seed);
-            const bool past = draw < 8;
-            spec.sizes = equalSizes(*function, 3 + draw % 4, past ? 3000 + int(random() % 100) : 60 + int(random() % 600));
+            spec.sizes = equalSizes(*function, 3 + draw % 4, draw < 4 ? 3000 + int(random() % 100) : 60 + int(random() % 600));
             drawPatterns(spec, *function, function->layout() == 'P' || draw >= 16 ? Style::planes : Style::tight, random);
             spec.values = drawValues(random);
-            setCacheBytes(past ? 4096 : 0);
             if (!report(Job(*function, spec).check())) {
                 break;
             }
         }
-        setCacheBytes(0);
+    }
+}
+
+// Operands of 24 MiB and more in all: results are stored past the cache.
+TEST_P(Results, LargeArrays)
+{
+    const std::string group = GetParam(), form = group.substr(group.find('_') + 1);
+    const std::set<std::string> others{"vokmCrossProduct", "vokmAffineTransform3DH", "vokmDotProduct", "vokmL2Norm", "vokmTrace"};
+    for (const Function* function : functions()) {
+        const std::string& family = function->family;
+        const bool constant = form.find('c') != std::string::npos;
+        const bool elementwise = family == "vokmAdd" || family == "vokmSub" || (family == "vokmMul" && constant);
+        if (function->layout() != 'S' || !function->array || !(elementwise || others.count(family))) {
+            continue;
+        }
+        JobSpec spec;
+        spec.seed = seedOf(*function, 9000);
+        Random random(spec.seed);
+        const int n = elementwise ? 3 + int(random() % 4) : 3;
+        int64_t elements = 0;
+        for (const ArgSpec& arg : function->args) {
+            const bool matrix = arg.letter == 'm' || arg.letter == 't';
+            elements += arg.kind == ArgKind::scalars ? 1 : !arg.array ? 0 : arg.letter == 'c' ? 1 : matrix ? n * n : n;
+        }
+        spec.sizes = equalSizes(*function, n, int((25 << 20) / (elements * function->elementSize())));
+        drawPatterns(spec, *function, Style::tight, random);
+        EXPECT_TRUE(report(Job(*function, spec).check()));
     }
 }
 

@@ -340,6 +340,12 @@ template <class View> VOKM_INLINE bool planar(const View& view)
     }
 }
 
+/// Place by place: g++ copies a longer array by a string instruction, which takes as long as a short loop over the planes.
+template <class Place, int K> VOKM_INLINE void copyPlaces(Place (&to)[K], const Place (&from)[K])
+{
+    unrolled<K>([&](auto k) VOKM_INLINE_LAMBDA { to[decltype(k)::value] = from[decltype(k)::value]; });
+}
+
 /// The K elements of object i of planes, by value for a loop over the objects; of a single operand, its one object.
 template <int K, class View> struct PlaneLanes {
     using T = std::remove_const_t<typename View::element>;
@@ -355,6 +361,7 @@ template <int K, class View> struct PlaneLanes {
             }
         }
     }
+    VOKM_INLINE PlaneLanes(const PlaneLanes& other) { copyPlaces(of, other.of); }
     VOKM_INLINE auto& operator()(int k, i64 i) const
     {
         if constexpr (View::array) {

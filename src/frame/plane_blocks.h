@@ -19,6 +19,7 @@ template <class T, int K> struct PlaneBases {
     {
         for (int k = 0; k < K; ++k) of[k] = &at(k);
     }
+    VOKM_INLINE PlaneBases(const PlaneBases& other) { copyPlaces(of, other.of); }
 };
 
 /// Computes the objects from 0 on for as long as there is a register full of them and none fails; returns how many are done.

@@ -8,8 +8,6 @@
 
 #include "pack.h"
 
-extern "C" int32_t vokGetMaxCacheSizeB(int32_t* bytes);  // the core library: the largest cache, 0 if unknown
-
 namespace vokm {
 
 inline void storePastCache(float* to, float value) { _mm_stream_si32(reinterpret_cast<int*>(to), std::bit_cast<i32>(value)); }
@@ -30,14 +28,9 @@ template <class V> VOKM_INLINE void storePastCache(Element<V>* to, V v)
 /// Makes such stores visible in order before what follows.
 inline void finishStoresPastCache() { _mm_sfence(); }
 
-/// Whether a job of many bytes in all outgrows three quarters of the cache. A small one does not ask.
-inline bool outgrowsCache(i64 bytes)
-{
-    if (bytes <= 1 << 17) return false;
-    i32 cache = 0;
-    vokGetMaxCacheSizeB(&cache);
-    return cache > 0 && bytes > cache - cache / 4;
-}
+/// Whether a job of so many bytes in all outgrows the cache: a figure for most processors, since only transposes ask for the
+/// real one, and cached stores lose little to a cache that is larger.
+constexpr bool outgrowsCache(i64 bytes) { return bytes > 24 << 20; }
 
 /// How far a loop that stores past the cache asks for its sources ahead: what the processor guesses is not far enough there.
 constexpr int fetchAhead = 2048;

@@ -153,6 +153,58 @@ template <bool anew, class D, class S> VOKM_INLINE bool wholeReadable(i32 i, con
     }
 }
 
+template <class View> constexpr bool turnedArray = isTransposed(View::code) && View::array;
+
+/// Objects of a size with straight code, one after another: each is read as a whole, computed and stored, or goes element by
+/// element where a transposed operand shares memory with its result. A single operand is read once or, `anew`, for each object;
+/// `ahead` reads the next object before the results of this one are stored.
+template <bool anew, bool ahead, class T, int R, int C, class Op, class A, class B, class D>
+VOKM_INLINE void objectByObject(Op op, A a, B b, D dst, i32 count)
+{
+    using HeldA = HeldIfSingle<T, R, C, A>;
+    using HeldB = HeldIfSingle<T, R, C, B>;
+    constexpr Shape shape{R, C};
+    struct Tile {
+        T at[R][C];
+    };
+    const auto work = [&](const HeldA& heldA, const HeldB& heldB, i32 i) VOKM_INLINE_LAMBDA {
+        Tile x, y, z;
+        loadOrHeld(x.at, a, heldA, i);
+        loadOrHeld(y.at, b, heldB, i);
+        for (int r = 0; r < R; ++r) {
+            for (int c = 0; c < C; ++c) z.at[r][c] = op(x.at[r][c], y.at[r][c]);
+        }
+        return z;
+    };
+    const auto finish = [&](const HeldA& heldA, const HeldB& heldB, i32 i) VOKM_INLINE_LAMBDA {
+        if (wholeReadable<anew>(i, Shaped<D>{dst, shape}, Shaped<A>{a, shape}) &&
+            wholeReadable<anew>(i, Shaped<D>{dst, shape}, Shaped<B>{b, shape})) {
+            store(work(heldA, heldB, i).at, dst, i);
+        } else {
+            eachElement<T>(op, objectOrHeld<anew>(a, heldA, i, shape), objectOrHeld<anew>(b, heldB, i, shape),
+                           dst.object(i, shape), shape);
+        }
+    };
+    if constexpr (anew) {
+        for (i32 i = 0; i < count; ++i) finish(HeldA(a, false), HeldB(b, false), i);
+    } else {
+        const HeldA heldA(a, false);
+        const HeldB heldB(b, false);
+        if constexpr (ahead && !turnedArray<A> && !turnedArray<B>) {
+            if (count < 1) return;
+            Tile done = work(heldA, heldB, 0);
+            for (i32 i = 1; i < count; ++i) {
+                const Tile next = work(heldA, heldB, i);
+                store(done.at, dst, i - 1);
+                done = next;
+            }
+            store(done.at, dst, count - 1);
+        } else {
+            for (i32 i = 0; i < count; ++i) finish(heldA, heldB, i);
+        }
+    }
+}
+
 template <const auto& paths, Variant variant, class T, class Op, class A, class B, class D>
 VOKM_INLINE vokStatus elementwise(Op op, A a, B b, D dst, Shape shape, i32 count)
 {
@@ -160,7 +212,6 @@ VOKM_INLINE vokStatus elementwise(Op op, A a, B b, D dst, Shape shape, i32 count
         return separate(count, Shaped<D>{dst, shape}, Shaped<A>{a, shape}) &&
                separate(count, Shaped<D>{dst, shape}, Shaped<B>{b, shape});
     };
-    constexpr bool turnedArray = (isTransposed(A::code) && A::array) || (isTransposed(B::code) && B::array);
     if constexpr (requires { dst.stride0; } && D::array) {
         if (planar(dst) && (!A::array || planar(a)) && (!B::array || planar(b)) && count >= packLanes<T> &&
             planesApart(Shaped<D>{dst, shape}, count) && apart()) {
@@ -183,8 +234,9 @@ VOKM_INLINE vokStatus elementwise(Op op, A a, B b, D dst, Shape shape, i32 count
     const auto fixed = [&](auto size) VOKM_INLINE_LAMBDA -> vokStatus {
         constexpr int C = decltype(size)::value, R = isMatrix(D::code) ? C : 1;
         constexpr Paths::Kernel kernel = paths.template of<T>(variant);
-        constexpr bool hasPath = kernel.sizes.has(C), anew = !D::array || kernel.anew.has(C), ahead = kernel.ahead.has(C);
-        if constexpr (D::array && D::dense && requires { dst.base; } && A::code != Code::ca && B::code != Code::ca && !turnedArray) {
+        constexpr bool hasPath = kernel.sizes.has(C), anew = !D::array || kernel.anew.has(C);
+        if constexpr (D::array && D::dense && requires { dst.base; } && A::code != Code::ca && B::code != Code::ca &&
+                      !turnedArray<A> && !turnedArray<B>) {
             const bool runs = (isSingleOperand<A> || oneRun(a, shape)) && (isSingleOperand<B> || oneRun(b, shape)) &&
                               oneRun(dst, shape) && count > 1;
             const i64 bytes = i64(count) * (R * C) * i64(sizeof(T));
@@ -193,50 +245,12 @@ VOKM_INLINE vokStatus elementwise(Op op, A a, B b, D dst, Shape shape, i32 count
                 return vokStatusOk;
             }
         }
-        using HeldA = HeldIfSingle<T, R, C, A>;
-        using HeldB = HeldIfSingle<T, R, C, B>;
-        struct Tile {
-            T at[R][C];
-        };
-        const auto work = [&](const HeldA& heldA, const HeldB& heldB, i32 i) VOKM_INLINE_LAMBDA {
-            Tile x, y, z;
-            loadOrHeld(x.at, a, heldA, i);
-            loadOrHeld(y.at, b, heldB, i);
-            for (int r = 0; r < R; ++r) {
-                for (int c = 0; c < C; ++c) z.at[r][c] = op(x.at[r][c], y.at[r][c]);
-            }
-            return z;
-        };
-        const auto finish = [&](const HeldA& heldA, const HeldB& heldB, i32 i) VOKM_INLINE_LAMBDA {
-            if (wholeReadable<anew>(i, Shaped<D>{dst, shape}, Shaped<A>{a, shape}) &&
-                wholeReadable<anew>(i, Shaped<D>{dst, shape}, Shaped<B>{b, shape})) {
-                store(work(heldA, heldB, i).at, dst, i);
-            } else {
-                eachElement<T>(op, objectOrHeld<anew>(a, heldA, i, shape), objectOrHeld<anew>(b, heldB, i, shape),
-                               dst.object(i, shape), shape);
-            }
-        };
-        if constexpr (!hasPath) {
-            return general();
-        } else if constexpr (anew) {
-            for (i32 i = 0; i < count; ++i) finish(HeldA(a, false), HeldB(b, false), i);
+        if constexpr (hasPath) {
+            objectByObject<anew, kernel.ahead.has(C), T, R, C>(op, a, b, dst, count);
+            return vokStatusOk;
         } else {
-            const HeldA heldA(a, false);
-            const HeldB heldB(b, false);
-            if constexpr (ahead && !turnedArray) {
-                if (count < 1) return vokStatusOk;
-                Tile done = work(heldA, heldB, 0);
-                for (i32 i = 1; i < count; ++i) {
-                    const Tile next = work(heldA, heldB, i);
-                    store(done.at, dst, i - 1);
-                    done = next;
-                }
-                store(done.at, dst, count - 1);
-            } else {
-                for (i32 i = 0; i < count; ++i) finish(heldA, heldB, i);
-            }
+            return general();
         }
-        return vokStatusOk;
     };
     if (isMatrix(D::code) && shape.rows != shape.cols) return general();
     return onFixed(shape.cols, fixed, general);
