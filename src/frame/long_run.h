@@ -133,7 +133,7 @@ template <class Op, class X, class Y, class T> inline void longRun(Op op, X x, Y
         return false;
     };
     const bool past = reinterpret_cast<std::uintptr_t>(dst) % sizeof(T) == 0 && !onIt(x) && !onIt(y) &&
-                      outgrowsCache(n * i64(sizeof(T)) * (1 + X::array + Y::array));
+                      worthPastCache(n * i64(sizeof(T)) * (1 + X::array + Y::array));
     const auto run = [&](auto store) VOKM_INLINE_LAMBDA {
         constexpr bool pastCache = decltype(store)::value;
         constexpr int turn = registersInTurn<Pack<T>, X, Y>;

@@ -28,9 +28,9 @@ template <class V> VOKM_INLINE void storePastCache(Element<V>* to, V v)
 /// Makes such stores visible in order before what follows.
 inline void finishStoresPastCache() { _mm_sfence(); }
 
-/// Whether a job of so many bytes in all outgrows the cache: a figure for most processors, since only transposes ask for the
-/// real one, and cached stores lose little to a cache that is larger.
-constexpr bool outgrowsCache(i64 bytes) { return bytes > 24 << 20; }
+/// Whether a job of so many bytes in all is stored past the cache. A figure that suits most processors: what they have is asked
+/// for by transposes alone.
+constexpr bool worthPastCache(i64 bytes) { return bytes > 24 << 20; }
 
 /// How far a loop that stores past the cache asks for its sources ahead: what the processor guesses is not far enough there.
 constexpr int fetchAhead = 2048;

@@ -135,7 +135,7 @@ template <bool past, int N, class Work> [[gnu::target(VOKM_WIDEST), VOKM_OUT_OF_
 template <int K, class T, class Work> VOKM_INLINE void overObjectsWide(i32 count, const T* dst, i64 bytes, Work& work)
 {
     const i32 aligned = objectAtLine<K>(dst);
-    if (reinterpret_cast<std::uintptr_t>(dst + aligned * K) % 64 == 0 && outgrowsCache(bytes)) {
+    if (reinterpret_cast<std::uintptr_t>(dst + aligned * K) % 64 == 0 && worthPastCache(bytes)) {
         objectsWide<true, wideLanes<T>>(count, aligned, &work);
     } else {
         objectsWide<false, wideLanes<T>>(count, count >= 4 * wideLanes<T> ? aligned : 0, &work);

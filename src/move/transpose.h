@@ -5,6 +5,8 @@
 #include "../frame/stamp.h"
 #include "../frame/stream.h"
 
+extern "C" int32_t vokGetMaxCacheSizeB(int32_t* bytes);  // the core library: the largest cache, 0 if unknown
+
 namespace vokm {
 
 inline constexpr Row rowTranspose{{"NCZS", "NCZSO", "NCZSO"}, {"NCZS", "NCZSO", "NCZSO"}};

@@ -5,6 +5,7 @@
 
 #include "../frame/fixed.h"
 #include "../frame/overlap.h"
+#include "../frame/stream.h"
 #include "../frame/sums.h"
 #include "wide_sums.h"
 
@@ -141,6 +142,15 @@ template <class A> struct Squares {
     }
     template <Order order, int n> VOKM_INLINE auto folded(As<Pack<double>>, i32 i) const { return foldedSum<order, n>(a, a, i); }
     template <int n> VOKM_INLINE auto pin() const { return Squares<Pinned<1, n, A>>{pinned<1, n>(a)}; }
+    /// Asks for a dense array's objects ahead: roots take so long that the loop itself does not read far enough.
+    template <int n> VOKM_INLINE void fetch(i32 i) const
+    {
+        if constexpr (folds) {
+            const auto* const at = &a.object(i, Shape{1, n})(0, 0);
+            fetchSource(at);
+            if constexpr (n > 4) fetchSource(at + 64 / sizeof *at);
+        }
+    }
     const auto& lead() const { return a; }
 };
 
@@ -219,6 +229,7 @@ VOKM_INLINE vokStatus reduce(
         const auto pins = terms.template pin<k>();
         walkGuarded<T>(count, guard, [&](auto as, i32 i) VOKM_INLINE_LAMBDA {
             using V = typename decltype(as)::type;
+            if constexpr (isPack<V> && requires { terms.template fetch<k>(i); }) terms.template fetch<k>(i);
             if constexpr (isPack<V> && sizeof(T) == 8 && folds<order, k> && Terms::folds) {
                 return storeLanes(dst.base + i, finish(pins.template folded<order, k>(as, i)));
             }
