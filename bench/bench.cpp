@@ -109,6 +109,7 @@ public:
         addOurs();
         addPeers();
         if (where == streams) addLoop();
+        if (where == cache && isReduction()) addBare();
     }
 
 private:
@@ -384,6 +385,18 @@ private:
                                       for (; repeats > 0; --repeats) run(o);
                                   }, count});
         }
+    }
+
+    bool isReduction() const { return std::string(row.letters) == "VV>Sn#" || std::string(row.letters) == "V>Sn#"; }
+
+    void addBare() {
+        const long inPlanes = long(sources.size()) * n, pitch = planeBytes() / long(sizeof(T));
+        T* planes = arena.take<T>(std::size_t(inPlanes) * pitch);
+        for (long k = 0; k < inPlanes; ++k)
+            for (int i = 0; i < count; ++i) planes[k * pitch + i] = std::fabs(sources[k / n][std::size_t(i) * n + k % n]);
+        contenders.push_back({"bare", [=, this, d = static_cast<T*>(peerResults[0])](long repeats) {
+                                  for (; repeats > 0; --repeats) bare(planes, inPlanes, pitch, sources.size() == 1, d, count);
+                              }, count});
     }
 
     void addLoop() {

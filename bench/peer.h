@@ -27,6 +27,11 @@ using Add = void (*)(const Formulation&);
 
 void loop(const void* a, long ra, const void* b, long rb, void* d, long w, long blocks);
 
+// d[i] = the sum of element i of `count` planes, each `pitch` elements behind the last, or the root of the sum: what a reduction
+// over planes cannot be faster than.
+void bare(const float* planes, long count, long pitch, bool root, float* d, long n);
+void bare(const double* planes, long count, long pitch, bool root, double* d, long n);
+
 } // namespace bench
 
 extern "C" {

@@ -100,7 +100,7 @@ def losses(rows):
 
 
 def all_rows(rows):
-    peers = [p for p in [*NAMES, "planesP", "planesS", "list"] if any(p in r for r in rows)]
+    peers = [p for p in [*NAMES, "planesP", "planesS", "bare", "list"] if any(p in r for r in rows)]
     head = ["function", "type", "n", "ours", *(NAMES.get(p, p) for p in peers)]
     body = [[f"`{r['family']}`", r["type"], str(r["n"]), f"**{r['ours']:.2f}**",
              *(f"{r[p]:.2f}" if math.isfinite(r.get(p, math.inf)) else "" for p in peers)]
@@ -138,5 +138,6 @@ def write(path, rows, groups, group_of, geometric, rounds):
     for place, title in (("cache", "All rows in cache"), ("stream", "All streaming rows"), ("whole", "Large matrices")):
         some = [r for r in rows if r["place"] == place]
         if some:
-            text += [f"## {title}", "", "Nanoseconds an object. `planesP`, `planesS`, `list`: ours in other arrangements.", "", *all_rows(some)]
+            text += [f"## {title}", "", "Nanoseconds an object. `planesP`, `planesS`, `list`: ours in other arrangements; "
+                     "`bare`: a loop that only reads the planes, adds and stores (norms: takes the root).", "", *all_rows(some)]
     path.write_text("\n".join(text).rstrip() + "\n")
