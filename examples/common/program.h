@@ -9,8 +9,8 @@
 // NAME INPUT [DIRECTORY]: calls draw(input, directory); what it throws is told in a line, and gives the exit status 1.
 template <class Draw> int runProgram(int argc, char** argv, const char* name, const char* input, Draw draw)
 {
-    if (argc < 2 || argc > 3) {
-        std::fprintf(stderr, "usage: %s %s [DIRECTORY]\n", name, input);
+    if (argc < 2 || argc > 3 || argv[1][0] == '-') {
+        std::fprintf(stderr, "usage: %s %s [DIRECTORY of the pictures, else here]\n", name, input);
         return 1;
     }
     try {
