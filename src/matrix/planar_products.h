@@ -18,25 +18,35 @@ template <class View, int R, int C> struct RowAfterRow {
 };
 template <class View, int R, int C> using MatrixLanes = PlaneLanes<R * C, RowAfterRow<View, R, C>>;
 
-/// Whether the results' planes ascend without overlap, and lie apart from the source's as a whole: what is usual, in few steps.
-template <int K, int M, class S, class D>
-VOKM_INLINE bool spansApart(const PlaneLanes<K, S>& src, const PlaneLanes<M, D>& dst, i32 count)
+/// Whether planes ascend without overlap.
+template <int K, class S> VOKM_INLINE bool ascend(const PlaneLanes<K, S>& planes, i32 count)
 {
-    const Address bytes = Address(count) * sizeof(typename D::element);
-    const auto at = [](const void* plane) VOKM_INLINE_LAMBDA { return reinterpret_cast<Address>(plane); };
+    const Address bytes = Address(count) * sizeof(typename S::element);
     bool apart = true;
-    for (int m = 1; m < M; ++m) apart &= at(dst.of[m]) >= at(dst.of[m - 1]) + bytes;
-    if constexpr (S::array) {
-        Address low = at(src.of[0]), high = low;
-        for (int k = 1; k < K; ++k) low = std::min(low, at(src.of[k])), high = std::max(high, at(src.of[k]));
-        apart &= high + bytes <= at(dst.of[0]) || at(dst.of[M - 1]) + bytes <= low;
+    for (int k = 1; k < K; ++k) {
+        apart &= reinterpret_cast<Address>(planes.of[k]) >= reinterpret_cast<Address>(planes.of[k - 1]) + bytes;
     }
     return apart;
 }
+/// Whether ascending planes of results lie apart from a source's as a whole.
 template <int K, int M, class S, class D>
-VOKM_INLINE bool separatePlanes(const PlaneLanes<K, S>& src, const PlaneLanes<M, D>& dst, i32 count)
+VOKM_INLINE bool spansApart(const PlaneLanes<K, S>& src, const PlaneLanes<M, D>& dst, i32 count)
 {
-    return spansApart(src, dst, count) || lanesApart(src, dst, count);
+    if constexpr (S::array) {
+        const Address bytes = Address(count) * sizeof(typename D::element);
+        const auto at = [](const void* plane) VOKM_INLINE_LAMBDA { return reinterpret_cast<Address>(plane); };
+        Address low = at(src.of[0]), high = low;
+        for (int k = 1; k < K; ++k) low = std::min(low, at(src.of[k])), high = std::max(high, at(src.of[k]));
+        return high + bytes <= at(dst.of[0]) || at(dst.of[M - 1]) + bytes <= low;
+    } else {
+        return true;
+    }
+}
+/// Whether no plane of results shares memory with another plane: what is usual in few steps, else pair by pair.
+template <class X, class Y, class Z> VOKM_INLINE bool separatePlanes(const X& x, const Y& y, const Z& z, i32 count)
+{
+    return (ascend(z, count) && spansApart(x, z, count) && spansApart(y, z, count)) ||
+           (lanesApart(x, z, count) && lanesApart(y, z, count));
 }
 
 /// All objects, if no plane of results touches another plane; else false and nothing is done.
@@ -48,7 +58,7 @@ VOKM_INLINE bool alongPlanes(const Operands<n, A, B, NoAddend, D>& of, i32 count
     const MatrixLanes<A, n, n> x({of.a});
     const MatrixLanes<B, other.rows, n> y({of.b});
     const MatrixLanes<D, other.rows, n> z({of.d});
-    if (!separatePlanes(x, z, count) || !separatePlanes(y, z, count)) return false;
+    if (!separatePlanes(x, y, z, count)) return false;
     along(count, [x, y, z](i64 i) VOKM_INLINE_LAMBDA {
         constexpr int m = isMatrix(B::code) ? n : 1;
         T a[n][n], b[m][n], d[m][n];
