@@ -63,12 +63,12 @@ VOKM_INLINE vokStatus eigenvalues(const A& src, Packed<T> re, Packed<T> im, i32 
     });
 }
 
-/// Bytes of a buffer, formed in 64 bits and stored in 32.
-static vokStatus storeBytes(i64 (*elements)(i64), i32 n, i64 E, i32* bytes)
+/// Bytes of a buffer, formed in 64 bits, where they wrap, and stored in 32.
+static vokStatus storeBytes(std::uint64_t (*elements)(std::uint64_t), i32 n, std::uint64_t E, i32* bytes)
 {
     if (bytes == nullptr) return vokStatusNullPointer;
     if (n < 1) return vokStatusBadSize;
-    *bytes = static_cast<i32>(elements(n) * E);
+    *bytes = static_cast<i32>(elements(static_cast<std::uint64_t>(n)) * E);
     return vokStatusOk;
 }
 
@@ -83,7 +83,7 @@ VALUES_FORMS_MA(GENERAL_EXPORTS_MA)
 #define GENERAL_QUERY(family, elements, ty, T)                                                                                   \
     vokStatus vokm##family##GetBufSize_##ty(int32_t widthHeight, int32_t* bufSize)                                               \
     {                                                                                                                            \
-        return vokm::storeBytes(vokm::elements<vokm::i64>, widthHeight, sizeof(T), bufSize);                                     \
+        return vokm::storeBytes(vokm::elements<std::uint64_t>, widthHeight, sizeof(T), bufSize);                                     \
     }
 GENERAL_QUERY(EigenValues, valuesElements, 32f, float)
 GENERAL_QUERY(EigenValues, valuesElements, 64f, double)

@@ -20,8 +20,8 @@ template <class T> int32_t eigenValues(const Model<T>& m, int first, int n)
 
 template <class T> int32_t bufferSize(const Model<T>& m, int first, int)
 {
-    int64_t n = m.size("widthHeight"), areas = m.function().family == "vokmEigenValuesGetBufSize" ? 1 : 3;
-    m.indices("bufSize").set(first, 0, int32_t((areas * n + 5) * n * int64_t(sizeof(T))));
+    uint64_t n = uint64_t(m.size("widthHeight")), areas = m.function().family == "vokmEigenValuesGetBufSize" ? 1 : 3;
+    m.indices("bufSize").set(first, 0, int32_t((areas * n + 5) * n * sizeof(T)));
     return 0;
 }
 
