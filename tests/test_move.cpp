@@ -95,7 +95,7 @@ TEST_P(OverlappingCopies, AreSequential)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Form, OverlappingCopies, testing::ValuesIn(groupsOf({"vokmCopy"})), groupName);
+INSTANTIATE_TEST_SUITE_P(Form, OverlappingCopies, testing::ValuesIn(groupsOf({"vokmCopy", "vokmExtract"})), groupName);
 
 // Rows one element apart: a row is cleared whole before its one is set, rows ascend.
 TEST(LoadIdentity, OverlappingRows)

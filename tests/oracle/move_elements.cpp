@@ -26,11 +26,18 @@ struct Copy {
     }
 };
 
+// Behind tables, vectors and transposed matrices go position by position, and all objects of each.
 struct Extract {
     template <class T> static int32_t run(const Model<T>& m, int first, int n)
     {
-        int width = m.view("src").cols();
-        return moveAll(m, first, n, [width](View<T>& dst, int i, int r, int c, T value) { dst.set(i, r * width + c, value); });
+        View<T> src = m.view("src"), dst = m.view("dst");
+        const int width = src.cols(), elements = src.rows() * width;
+        const bool byPosition = m.function().layout() == 'P' && (m.function().form == "va" || m.function().form == "ta");
+        for (int k = 0; k < n * elements; ++k) {
+            const int i = first + (byPosition ? k % n : k / elements), e = byPosition ? k / n : k % elements;
+            dst.set(i, e, src.get(i, e / width, e % width));
+        }
+        return 0;
     }
 };
 
