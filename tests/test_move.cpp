@@ -312,6 +312,24 @@ TEST(Transpose, OverlappingRowsOfTheResult)
     }
 }
 
+// At the sizes with straight code they are finished one after the other.
+TEST(Transpose, OverlappingRowsOfSmallResults)
+{
+    for (const char* group : {"vokmTranspose_m", "vokmTranspose_ma"}) {
+        for (const Function* function : functionsOf(group)) {
+            for (int draw = 0; draw < 4 * 5 && function->layout() != 'P'; ++draw) {
+                JobSpec spec;
+                spec.sizes = equalSizes(*function, 3 + draw / 5, 3);
+                Job job(*function, spec);
+                Operand& dst = job.operands.at("dst");
+                dst.stride1 = (1 + draw % 5) * dst.elementSize;
+                job.arguments.integers["dstStride1"] = dst.stride1;
+                EXPECT_EQ(job.check(), "");
+            }
+        }
+    }
+}
+
 // Aligned 4x4 objects of an array are read whole before they are written, so they can be turned where they stand.
 TEST(Transpose, AlignedFourByFourInPlace)
 {
