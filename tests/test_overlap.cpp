@@ -2,6 +2,7 @@
 // the element-by-element loops of long vectors.
 #include "harness/groups.h"
 #include "harness/patterns.h"
+#include "harness/promises.h"
 
 using namespace harness;
 
@@ -54,6 +55,42 @@ TEST_P(Overlap, InPlace)
         }
     }
 }
+
+class AcrossArrays : public GroupTest {};
+
+// Results that lie anywhere across a source, where that has one outcome: each object is finished before the next one is read.
+TEST_P(AcrossArrays, ObjectsAreFinishedInTurn)
+{
+    for (const Function* function : functions()) {
+        std::vector<const ArgSpec*> sources, results;
+        for (const ArgSpec& arg : function->args) {
+            if (arg.array && (arg.kind == ArgKind::object || arg.kind == ArgKind::scalars)) {
+                (arg.written ? results : sources).push_back(&arg);
+            }
+        }
+        for (int draw = 0; draw < 120 && !sources.empty() && !results.empty(); ++draw) {
+            JobSpec spec;
+            spec.seed = seedOf(*function, 11000 + draw);
+            Random random(spec.seed);
+            const int count = draw % 3 ? 4 + int(random() % 20) : 64 + int(random() % 40);
+            spec.sizes = equalSizes(*function, 3 + int(random() % (draw % 4 ? 4 : 8)), count);
+            drawPatterns(spec, *function, draw % 2 ? Style::tight : drawStyle(random), random);
+            const std::string source = sources[random() % sources.size()]->name;
+            const Operand under = Job(*function, spec).operands.at(source);
+            const int object = int(random() % count), row = int(random() % under.logicalRows()),
+                      col = int(random() % under.logicalCols());
+            const bool first = draw / 2 % 2;
+            const int64_t place = first ? under.offset(object, 0, 0) : under.offset(object, row, col);
+            spec.overlay[results[random() % results.size()]->name] = {source, place - under.base};
+            Job job(*function, spec);
+            if (overlapIsDefined(job) && !report(job.check())) {
+                return;
+            }
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Form, AcrossArrays, testing::ValuesIn(declaredGroups()), groupName);
 
 // The first result object lands on the single source: read once, the others still see its old value.
 TEST_P(Overlap, SingleSourceUnderTheDestination)
