@@ -211,18 +211,21 @@ TEST(EigenOverlap, ObjectsAreFinishedInTurn)
     std::mt19937 random(6);
     std::vector<double> elements(3 * count * size), buffer(200), elsewhere(count * size);
     for (double& x : elements) x = std::uniform_real_distribution<>(-1, 1)(random);
-    const auto values = [&](double* src, double* dst, int number) {
-        return vokmEigenValues_ma_64f(src, strides[0], strides[1], strides[2], dst, &elsewhere[0], n, number, &buffer[0]);
+    const auto values = [&](double* src, int step, double* dst, int number) {
+        return vokmEigenValues_ma_64f(src, step * 8, strides[1], strides[2], dst, &elsewhere[0], n, number, &buffer[0]);
     };
     const auto vectors = [&](double* src, double* dst, int number) {
         return vokmEigenValuesVectorsLeft_ma_64f(src, strides[0], strides[1], strides[2], dst, strides[0], strides[1],
             strides[2], &elsewhere[0], &elsewhere[count * n], n, number, &buffer[0]);
     };
-    for (int distance = 1; distance <= 2 * size; ++distance) {
-        auto whole = elements, inTurn = elements;
-        ASSERT_EQ(values(&whole[0], &whole[distance], count), 0);
-        for (int k = 0; k < count; ++k) values(&inTurn[k * size], &inTurn[k * n + distance], 1);
-        EXPECT_EQ(whole, inTurn) << "values, " << distance;
+    for (int distance = 0; distance <= 2 * size; ++distance) {
+        std::vector<double> whole, inTurn;
+        for (int step : {size, n}) {  // n: each object begins with the second row of the one before
+            whole = inTurn = elements;
+            ASSERT_EQ(values(&whole[0], step, &whole[distance], count), 0);
+            for (int k = 0; k < count; ++k) values(&inTurn[k * step], step, &inTurn[k * n + distance], 1);
+            EXPECT_EQ(whole, inTurn) << "values, " << distance << " step " << step;
+        }
         whole = inTurn = elements;
         ASSERT_EQ(vectors(&whole[0], &whole[distance], count), 0);
         for (int k = 0; k < count; ++k) vectors(&inTurn[k * size], &inTurn[k * size + distance], 1);
