@@ -75,13 +75,18 @@ TEST_P(AcrossArrays, ObjectsAreFinishedInTurn)
             const int count = draw % 3 ? 4 + int(random() % 20) : 64 + int(random() % 40);
             spec.sizes = equalSizes(*function, 3 + int(random() % (draw % 4 ? 4 : 8)), count);
             drawPatterns(spec, *function, draw % 2 ? Style::tight : drawStyle(random), random);
-            const std::string source = sources[random() % sources.size()]->name;
+            const std::string source = sources[random() % sources.size()]->name,
+                              result = results[random() % results.size()]->name;
+            if (draw / 2 % 2) {
+                spec.patterns[source].sequence = 'a';
+                spec.patterns[result] = spec.patterns[source];
+            }
             const Operand under = Job(*function, spec).operands.at(source);
-            const int object = int(random() % count), row = int(random() % under.logicalRows()),
+            const int object = int(random() % (draw / 4 % 2 ? 4 : count)), row = int(random() % under.logicalRows()),
                       col = int(random() % under.logicalCols());
-            const bool first = draw / 2 % 2;
-            const int64_t place = first ? under.offset(object, 0, 0) : under.offset(object, row, col);
-            spec.overlay[results[random() % results.size()]->name] = {source, place - under.base};
+            const bool whole = draw / 8 % 2;
+            const int64_t place = whole ? under.offset(object, 0, 0) : under.offset(object, row, col);
+            spec.overlay[result] = {source, place - under.base};
             Job job(*function, spec);
             if (overlapIsDefined(job) && !report(job.check())) {
                 return;
