@@ -5,7 +5,6 @@
 
 #include "../frame/fixed.h"
 #include "../frame/overlap.h"
-#include "../frame/stream.h"
 #include "../frame/sums.h"
 #include "wide_sums.h"
 
@@ -56,6 +55,17 @@ template <Order order, int n, class A, class B> VOKM_INLINE Pack<double> foldedS
 template <Order order, int n> constexpr bool folds = n > 3 &&
                                                      (order == Order::evenOdd || (order == Order::evenOddTail && n == 5) ||
                                                          (order == Order::evenOddInner && n == 6));
+
+/// Asks for the objects of a dense array two pages ahead of a pack's: what the processor guesses ends with a page, and nearer
+/// the two would be in each other's way.
+template <int n, class A> VOKM_INLINE void fetchObjects(const A& a, i32 i)
+{
+    if constexpr (A::array && A::dense) {
+        const auto* const at = &a.object(i, Shape{1, n})(0, 0);
+        __builtin_prefetch(byBytes(at, 8192));
+        if constexpr (n > 4) __builtin_prefetch(byBytes(at, 8192 + 64));
+    }
+}
 
 /// The terms of a dot product.
 template <class A, class B> struct Products {
@@ -115,7 +125,11 @@ template <class A, class B> struct Products {
     {
         return Products<Pinned<1, n, A>, Pinned<1, n, B>>{pinned<1, n>(a), pinned<1, n>(b)};
     }
-    template <int n> VOKM_INLINE void fetch(i32) const {}  // the processor's own guess is far enough
+    template <int n> VOKM_INLINE void fetch(i32 i) const
+    {
+        fetchObjects<n>(a, i);
+        fetchObjects<n>(b, i);
+    }
     const auto& lead() const { return b; }  // the operand whose alignment decides the head of a long sum
 };
 
@@ -143,15 +157,7 @@ template <class A> struct Squares {
     }
     template <Order order, int n> VOKM_INLINE auto folded(As<Pack<double>>, i32 i) const { return foldedSum<order, n>(a, a, i); }
     template <int n> VOKM_INLINE auto pin() const { return Squares<Pinned<1, n, A>>{pinned<1, n>(a)}; }
-    /// Asks for a dense array's objects ahead: roots take so long that the loop itself does not read far enough.
-    template <int n> VOKM_INLINE void fetch(i32 i) const
-    {
-        if constexpr (folds) {
-            const auto* const at = &a.object(i, Shape{1, n})(0, 0);
-            fetchSource(at);
-            if constexpr (n > 4) fetchSource(at + 64 / sizeof *at);
-        }
-    }
+    template <int n> VOKM_INLINE void fetch(i32 i) const { fetchObjects<n>(a, i); }
     const auto& lead() const { return a; }
 };
 
