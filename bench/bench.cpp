@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <cstring>
 #include <ctime>
+#include <deque>
 #include <functional>
 #include <map>
 #include <numeric>
@@ -118,6 +119,9 @@ private:
     const Where where;
     double* scratch;
     std::vector<T*> sources; // dense; with a preparation its source comes first, and what it makes is none
+    // Apart from the planes: between them they would move one operand's planes against another's, so that stores and loads
+    // meet at the same place of a page, in one of the two arrangements of planes alone.
+    std::deque<std::vector<void*>> tables;
     std::vector<void*> peerResults;
     Numbers reference;
     std::string referenceName;
@@ -203,7 +207,7 @@ private:
         char* base = static_cast<char*>(data);
         const int between = inPlanes ? e : size * e;
         if (arrangement == Arrangement::planeTable) {
-            void** table = arena.take<void*>(size);
+            void** table = tables.emplace_back(size).data();
             for (int j = 0; j < size; ++j) table[j] = base + std::size_t(j) * step;
             return {table, {0, between}};
         }
