@@ -11,13 +11,13 @@ namespace {
 
 const Function& affine() { return functionNamed("vokmAffineTransform3DH_mva_32f"); }
 
-JobSpec specOf(int count, int unit)
+JobPlan planOf(int count, int unit)
 {
-    JobSpec spec;
-    spec.sizes = {{"count", count}};
-    spec.patterns[""].unit = unit;
-    spec.gap = 4096;
-    return spec;
+    JobPlan plan;
+    plan.sizes = {{"count", count}};
+    plan.patterns[""].unit = unit;
+    plan.gap = 4096;
+    return plan;
 }
 
 // Row 3 becomes (0, 0, 1, 0): the third coordinate of a point is its w.
@@ -36,7 +36,7 @@ TEST(AffineTransform, SmallDivisors)
         {INFINITY, true}, {-INFINITY, true}, {-2.0f, true}, {FLT_MAX, true}};
     for (auto [count, unit] : {std::pair(3, 1), {3, 2}, {40, 1}}) {
         for (auto [w, accepted] : cases) {
-            Job job(affine(), specOf(count, unit));
+            Job job(affine(), planOf(count, unit));
             makeDepthTheDivisor(job);
             job.put<float>("src2", count / 2, 0, 2, w);
             std::set<int32_t> status;
@@ -52,9 +52,9 @@ TEST(AffineTransform, OneBadPointAmongShares)
 {
     for (int unit : {1, 2}) {
         for (int bad : {0, 165, 166, 499, -1}) {
-            JobSpec spec = specOf(500, unit);
-            spec.threads = 3;
-            Job job(affine(), spec);
+            JobPlan plan = planOf(500, unit);
+            plan.threads = 3;
+            Job job(affine(), plan);
             makeDepthTheDivisor(job);
             if (bad >= 0) {
                 job.put<float>("src2", bad, 0, 2, 0.0f);
@@ -69,13 +69,13 @@ TEST(AffineTransform, OverlappingPoints)
 {
     for (int unit : {1, 2}) {
         for (int64_t shift : {0, 1, -1}) {  // in points; the dense kernel has read the next point before it stores this one
-            JobSpec spec = specOf(9, unit);
-            spec.overlay["dst"] = {"src2", shift * 12 * unit};
-            EXPECT_EQ(Job(affine(), spec).check(), "") << "shifted by " << shift << " points";
+            JobPlan plan = planOf(9, unit);
+            plan.overlay["dst"] = {"src2", shift * 12 * unit};
+            EXPECT_EQ(Job(affine(), plan).check(), "") << "shifted by " << shift << " points";
         }
-        JobSpec spec = specOf(9, unit);
-        spec.overlay["dst"] = {"src1", 0};
-        EXPECT_EQ(Job(affine(), spec).check(), "") << "over the matrix";
+        JobPlan plan = planOf(9, unit);
+        plan.overlay["dst"] = {"src1", 0};
+        EXPECT_EQ(Job(affine(), plan).check(), "") << "over the matrix";
     }
 }
 

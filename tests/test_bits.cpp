@@ -36,7 +36,7 @@ struct Hash {
 
 void addElement(Hash& hash, const Operand& operand, const char* at, bool isDouble)
 {
-    if (operand.spec.kind == ArgKind::indices) {
+    if (operand.arg.kind == ArgKind::indices) {
         hash.add(uint32_t(load<int32_t>(at)));
     } else if (isDouble) {
         hash.addNumber(load<double>(at));
@@ -49,7 +49,7 @@ void addOperands(Hash& hash, const Job& job, bool results)
 {
     for (const std::string& name : job.laid) {
         const Operand& operand = job.operands.at(name);
-        if (operand.spec.kind == ArgKind::scratch || (operand.spec.written && operand.spec.kind != ArgKind::indices) != results) {
+        if (operand.arg.kind == ArgKind::scratch || (operand.arg.written && operand.arg.kind != ArgKind::indices) != results) {
             continue;
         }
         for (int i = 0; i < operand.shape.objects; ++i) {
@@ -71,45 +71,45 @@ bool takesEstimate(const Job& job)
     return n >= 3 && n <= 6 && !job.function.isDouble && (job.kernel == "" || job.kernel == "_L");
 }
 
-JobSpec drawSpec(const Function& function, int draw)
+JobPlan drawPlan(const Function& function, int draw)
 {
-    JobSpec spec;
-    spec.seed = seedOf(function, 20000 + draw);
-    Random random(spec.seed);
-    spec.sizes = drawAgreeingSizes(function, random);
+    JobPlan plan;
+    plan.seed = seedOf(function, 20000 + draw);
+    Random random(plan.seed);
+    plan.sizes = drawAgreeingSizes(function, random);
     Style style = drawStyle(random);
     if (function.array && draw % 8 == 0) {
         const int n = 1 + int(random() % 8);
-        spec.sizes = equalSizes(function, n, 40 + int(random() % 100));
+        plan.sizes = equalSizes(function, n, 40 + int(random() % 100));
         style = draw % 16 ? Style::planes : style;
     }
-    drawPatterns(spec, function, style, random);
-    spec.values = draw % 5 ? Values::ordinary : draw % 2 ? Values::zeros : Values::special;
-    return spec;
+    drawPatterns(plan, function, style, random);
+    plan.values = draw % 5 ? Values::ordinary : draw % 2 ? Values::zeros : Values::special;
+    return plan;
 }
 
-JobSpec drawTeam(const Function& function, int draw)
+JobPlan drawTeam(const Function& function, int draw)
 {
-    JobSpec spec = drawSpec(function, 40000 + draw);
-    spec.sizes = equalSizes(function, 3 + draw % 5, 8);
-    while (spec.sizes["count"] < 60000 && workValue(function, spec.sizes) <= function.limitDense) {
-        spec.sizes["count"] += 1 + spec.sizes["count"] / 10;
+    JobPlan plan = drawPlan(function, 40000 + draw);
+    plan.sizes = equalSizes(function, 3 + draw % 5, 8);
+    while (plan.sizes["count"] < 60000 && workValue(function, plan.sizes) <= function.limitDense) {
+        plan.sizes["count"] += 1 + plan.sizes["count"] / 10;
     }
-    spec.threads = 4;
-    return spec;
+    plan.threads = 4;
+    return plan;
 }
 
 class Bits : public GroupTest {
 protected:
-    static void add(Hash& inputs, Hash& results, const Function& function, const JobSpec& spec)
+    static void add(Hash& inputs, Hash& results, const Function& function, const JobPlan& plan)
     {
-        Job job(function, spec);
+        Job job(function, plan);
         if (takesEstimate(job)) {
             return;
         }
         addOperands(inputs, job, false);
         const int32_t status = job.runLibrary();
-        results.add(spec.threads == 1 ? uint32_t(status) : status == 0);  // in a team, the first failure to arrive wins
+        results.add(plan.threads == 1 ? uint32_t(status) : status == 0);  // in a team, the first failure to arrive wins
         addOperands(results, job, true);
         if (function.family == "vokmLUDecomp" || function.form == "-") {
             addOperands(results, job, false);  // pivots and sizes of buffers
@@ -121,7 +121,7 @@ protected:
         Hash inputs, alone, team;
         for (const Function* function : functions()) {
             for (int draw = 0; draw < 100; ++draw) {
-                add(inputs, alone, *function, drawSpec(*function, draw));
+                add(inputs, alone, *function, drawPlan(*function, draw));
             }
             for (int draw = 0; draw < 5 && function->wrapper; ++draw) {
                 add(inputs, team, *function, drawTeam(*function, draw));
@@ -153,15 +153,15 @@ Arguments only(const Job& job, std::map<std::string, std::vector<char*>>& lists,
     one.integers["count"] = 1;
     for (const std::string& name : job.laid) {
         const Operand& operand = job.operands.at(name);
-        const bool shared = operand.spec.kind == ArgKind::indices && job.function.form == "mva";  // pivots of the one factor
-        if (!operand.spec.array || operand.spec.kind == ArgKind::scratch || shared) {
+        const bool shared = operand.arg.kind == ArgKind::indices && job.function.form == "mva";  // pivots of the one factor
+        if (!operand.arg.array || operand.arg.kind == ArgKind::scratch || shared) {
             continue;
         }
         if (operand.isList()) {
             lists[name] = {operand.entries[i]};
             one.pointers[name] = lists[name].data();
         } else if (operand.isTable()) {
-            one.integers[operand.spec.prefix + "ObjShift"] += int32_t(i * operand.stride0);
+            one.integers[operand.arg.prefix + "ObjShift"] += int32_t(i * operand.stride0);
         } else {
             one.pointers[name] = static_cast<char*>(one.pointers[name]) + i * operand.stride0;
         }
@@ -184,15 +184,15 @@ TEST_P(Bits, ArraysAreTheirObjectsInTurn)
 {
     for (const Function* function : functions()) {
         for (int draw = 0; draw < 120 && function->array && function->kernels != "none"; ++draw) {
-            const JobSpec spec = drawSpec(*function, 60000 + draw);
-            Job array(*function, spec), inTurn(*function, spec);
+            const JobPlan plan = drawPlan(*function, 60000 + draw);
+            Job array(*function, plan), inTurn(*function, plan);
             if (placeCounts(array)) {
                 continue;
             }
             const int32_t status = array.runLibrary();
             int32_t first = 0;
             std::map<std::string, std::vector<char*>> lists;
-            for (int i = 0; i < spec.sizes.at("count") && (first == 0 || function->family == "vokmAffineTransform3DH"); ++i) {
+            for (int i = 0; i < plan.sizes.at("count") && (first == 0 || function->family == "vokmAffineTransform3DH"); ++i) {
                 const int32_t one = call(function->name, only(inTurn, lists, i));
                 first = first ? first : one;
             }

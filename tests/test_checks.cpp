@@ -44,9 +44,9 @@ TEST_P(Checks, EveryPairOfFaults)
 {
     for (const Function* function : functions()) {
         for (int count : {2, 1}) {
-            JobSpec spec;
-            spec.sizes = equalSizes(*function, 3, function->array ? count : 1);
-            Job job(*function, spec);
+            JobPlan plan;
+            plan.sizes = equalSizes(*function, 3, function->array ? count : 1);
+            Job job(*function, plan);
             std::vector<Fault> faults = faultsOf(*function, job);
             for (size_t a = 0; a < faults.size(); ++a) {
                 for (size_t b = a; b < faults.size(); ++b) {
@@ -67,13 +67,13 @@ TEST_P(Checks, RefusedJobAsksForNoThreads)
         if (function->work.empty()) {
             continue;
         }
-        JobSpec spec;
-        spec.threads = 3;
-        spec.sizes = equalSizes(*function, 3, 1);
-        while (!wantsThreads(*function, spec.sizes) && spec.sizes["count"] < 50000) {
-            spec.sizes["count"] *= 2;
+        JobPlan plan;
+        plan.threads = 3;
+        plan.sizes = equalSizes(*function, 3, 1);
+        while (!wantsThreads(*function, plan.sizes) && plan.sizes["count"] < 50000) {
+            plan.sizes["count"] *= 2;
         }
-        Job job(*function, spec);
+        Job job(*function, plan);
         for (const Fault& fault : faultsOf(*function, job)) {
             if (!harmless(fault, 2) && !report(refusal(job, {&fault}, 2))) {
                 return;

@@ -15,19 +15,19 @@ TEST_P(GuardPages, NothingBeyondIsTouched)
     constexpr int draws = 240;
     for (const Function* function : functions()) {
         for (int draw = 0; draw < draws; ++draw) {
-            JobSpec spec;
-            spec.seed = seedOf(*function, 9000 + draw);
-            Random random(spec.seed);
-            spec.sizes = drawAgreeingSizes(*function, random);
+            JobPlan plan;
+            plan.seed = seedOf(*function, 9000 + draw);
+            Random random(plan.seed);
+            plan.sizes = drawAgreeingSizes(*function, random);
             Style style = drawStyle(random);
             if (function->array && draw % 6 == 0) {  // enough objects for the widest registers
-                spec.sizes = equalSizes(*function, 1 + int(random() % 8), 40 + int(random() % 100));
+                plan.sizes = equalSizes(*function, 1 + int(random() % 8), 40 + int(random() % 100));
                 style = draw % 12 ? Style::planes : style;
             }
-            drawPatterns(spec, *function, style, random);
-            spec.guard = draw % 2 ? Guard::before : Guard::behind;
-            spec.beyond = [&](const Operand& operand) { return touchedBehind(*function, spec.sizes, operand); };
-            if (!report(Job(*function, spec).check())) {
+            drawPatterns(plan, *function, style, random);
+            plan.guard = draw % 2 ? Guard::before : Guard::behind;
+            plan.beyond = [&](const Operand& operand) { return touchedBehind(*function, plan.sizes, operand); };
+            if (!report(Job(*function, plan).check())) {
                 return;
             }
         }

@@ -129,15 +129,15 @@ TEST_F(InnerNames, BlockedTransposes)
 // A call with enough objects for a team of two, and the body of the region that it opened.
 void* regionOf(const Function& function, bool dense)
 {
-    JobSpec spec;
-    spec.sizes = equalSizes(function, 3, 2);
-    spec.patterns[""].unit = dense ? 1 : 2;
+    JobPlan plan;
+    plan.sizes = equalSizes(function, 3, 2);
+    plan.patterns[""].unit = dense ? 1 : 2;
     const int limit = dense ? function.limitDense : function.limitStrided;
-    while (spec.sizes["count"] < 1 << 20 && workValue(function, spec.sizes) <= limit) {
-        spec.sizes["count"] += 1 + spec.sizes["count"] / 16;
+    while (plan.sizes["count"] < 1 << 20 && workValue(function, plan.sizes) <= limit) {
+        plan.sizes["count"] += 1 + plan.sizes["count"] / 16;
     }
-    spec.threads = 2;
-    Job job(function, spec);
+    plan.threads = 2;
+    Job job(function, plan);
     const int before = regionsOpened();
     job.runLibrary();
     EXPECT_EQ(regionsOpened(), before + 1) << function.name;
@@ -201,9 +201,9 @@ TEST(Library, EveryStatusHasItsSentence)
 TEST(UntestedArguments, AreUsedAsTheyAre)
 {
     for (const char* name : {"vokmAdd_vca_64f_P", "vokmSub_cav_32f_P"}) {
-        JobSpec spec;
-        spec.sizes = {{"length", 3}, {"count", 3}};
-        Job job(functionNamed(name), spec);
+        JobPlan plan;
+        plan.sizes = {{"length", 3}, {"count", 3}};
+        Job job(functionNamed(name), plan);
         Operand& src = job.operands.at("src");
         for (char*& entry : src.entries) {
             entry += 13;
@@ -212,9 +212,9 @@ TEST(UntestedArguments, AreUsedAsTheyAre)
         job.arguments.integers["srcObjShift"] = -13;
         EXPECT_EQ(job.check(), "");
     }
-    JobSpec spec;
-    spec.sizes = {{"length", 4}, {"count", 5}};
-    Job job(functionNamed("vokmAdd_vaca_32f_P"), spec);
+    JobPlan plan;
+    plan.sizes = {{"length", 4}, {"count", 5}};
+    Job job(functionNamed("vokmAdd_vaca_32f_P"), plan);
     job.operands.at("src").stride0 = job.arguments.integers["srcStride0"] = 6;
     EXPECT_EQ(job.check(), "");
 }

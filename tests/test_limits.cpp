@@ -29,7 +29,7 @@ class ClosestJob {
 public:
     ClosestJob(const Function& f, int boundary, bool upper) : function(f), limit(boundary), wantAbove(upper)
     {
-        for (const ArgSpec& arg : f.args) {
+        for (const ArgRecord& arg : f.args) {
             if (arg.kind == ArgKind::integer && arg.name != "count") {
                 names.push_back(arg.name);
             }
@@ -102,21 +102,21 @@ protected:
 
     bool run(const Function& function, const Sizes& sizes, bool dense, int threads, int later, uint64_t salt)
     {
-        JobSpec spec;
-        spec.sizes = sizes;
-        spec.seed = seedOf(function, salt);
-        Random random(spec.seed);
-        drawPatterns(spec, function, dense ? Style::dense : Style::any, random);
+        JobPlan plan;
+        plan.sizes = sizes;
+        plan.seed = seedOf(function, salt);
+        Random random(plan.seed);
+        drawPatterns(plan, function, dense ? Style::dense : Style::any, random);
         if (!dense) {
-            for (auto& [name, pattern] : spec.patterns) {
+            for (auto& [name, pattern] : plan.patterns) {
                 pattern.nest = "cro";
                 pattern.unit = 2;
                 break;  // one strided operand is enough
             }
         }
-        spec.threads = threads;
-        spec.laterThreads = later;
-        return report(Job(function, spec).check());
+        plan.threads = threads;
+        plan.laterThreads = later;
+        return report(Job(function, plan).check());
     }
 };
 
@@ -147,7 +147,7 @@ TEST_P(Limits, FewObjects)
         // A trace would need matrices of gigabytes.
         const int longest = function->form.find_first_of("mt") == std::string::npos ? 50000 : 400;
         const bool scratch = std::any_of(
-            function->args.begin(), function->args.end(), [](const ArgSpec& arg) { return arg.kind == ArgKind::scratch; });
+            function->args.begin(), function->args.end(), [](const ArgRecord& arg) { return arg.kind == ArgKind::scratch; });
         for (auto [count, threads, later] : {std::tuple{10, 4, -1}, {4, 4, -1}, {3, 4, -1}, {7, 2, -1}, {3, 2, 5}}) {
             Sizes sizes = equalSizes(*function, 4, count);
             for (int n = 4; n < longest && !above(*function, sizes, function->limitDense); n = n * 5 / 4 + 1) {
@@ -168,17 +168,17 @@ TEST_P(Limits, SharesAreKernelCalls)
         for (int draw = 0; draw < 14; ++draw) {
             Random random(seedOf(*function, 1000 + draw));
             int n = draw < 3 ? 3 : draw < 11 ? 3 + draw % 4 : 1 + int(random() % 12);
-            JobSpec spec;
-            spec.seed = random();
-            spec.sizes = equalSizes(*function, n, 1);
-            while (spec.sizes["count"] < 60000 && !above(*function, spec.sizes, function->limitDense)) {
-                spec.sizes["count"] += 1 + spec.sizes["count"] / 40;
+            JobPlan plan;
+            plan.seed = random();
+            plan.sizes = equalSizes(*function, n, 1);
+            while (plan.sizes["count"] < 60000 && !above(*function, plan.sizes, function->limitDense)) {
+                plan.sizes["count"] += 1 + plan.sizes["count"] / 40;
             }
-            spec.sizes["count"] += int(random() % 9);
-            spec.threads = 2 + int(random() % 4);
-            spec.values = random() % 4 ? Values::ordinary : Values::special;
-            drawPatterns(spec, *function, draw < 4 ? Style::aligned : drawStyle(random), random);
-            if (!report(Job(*function, spec).check())) {
+            plan.sizes["count"] += int(random() % 9);
+            plan.threads = 2 + int(random() % 4);
+            plan.values = random() % 4 ? Values::ordinary : Values::special;
+            drawPatterns(plan, *function, draw < 4 ? Style::aligned : drawStyle(random), random);
+            if (!report(Job(*function, plan).check())) {
                 return;
             }
         }

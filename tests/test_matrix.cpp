@@ -42,20 +42,20 @@ std::map<std::string, int32_t> drawSizesAround(const Function& function, Random&
 }
 
 // Rows of 16 bytes and their multiples, from which at most one operand departs: the conditions of the aligned paths.
-void drawNearlyAligned(JobSpec& spec, const Function& function, Random& random)
+void drawNearlyAligned(JobPlan& plan, const Function& function, Random& random)
 {
     Pattern common;
     common.pad = int(random() % 4);
     common.roundObject = 16;
     std::vector<std::string> names;
-    for (const ArgSpec& arg : function.args) {
+    for (const ArgRecord& arg : function.args) {
         if (arg.kind != ArgKind::real && arg.kind != ArgKind::integer) {
-            spec.patterns[arg.name] = common;
-            spec.patterns[arg.name].align = int(random() % 4) * 16;
+            plan.patterns[arg.name] = common;
+            plan.patterns[arg.name].align = int(random() % 4) * 16;
             names.push_back(arg.name);
         }
     }
-    Pattern& one = spec.patterns[names[random() % names.size()]];
+    Pattern& one = plan.patterns[names[random() % names.size()]];
     switch (random() % 5) {
     case 0: one.align += function.elementSize() * (1 + int(random() % 3)); break;
     case 1: one.pad = int(random() % 4); break;
@@ -69,13 +69,13 @@ TEST_P(Matrices, AlignedRows)
 {
     for (const Function* function : functions()) {
         for (int draw = 0; draw < 800; ++draw) {
-            JobSpec spec;
-            spec.seed = seedOf(*function, draw);
-            Random random(spec.seed);
-            spec.sizes = draw % 2 ? drawSizesAround(*function, random) : drawAgreeingSizes(*function, random);
-            spec.values = draw % 4 ? Values::ordinary : draw % 8 ? Values::special : Values::zeros;
-            drawNearlyAligned(spec, *function, random);
-            if (!report(Job(*function, spec).check())) {
+            JobPlan plan;
+            plan.seed = seedOf(*function, draw);
+            Random random(plan.seed);
+            plan.sizes = draw % 2 ? drawSizesAround(*function, random) : drawAgreeingSizes(*function, random);
+            plan.values = draw % 4 ? Values::ordinary : draw % 8 ? Values::special : Values::zeros;
+            drawNearlyAligned(plan, *function, random);
+            if (!report(Job(*function, plan).check())) {
                 return;
             }
         }
@@ -86,25 +86,25 @@ TEST_P(Matrices, InPlace)
 {
     for (const Function* function : functions()) {
         bool elementwise = function->family == "vokmAdd" || function->family == "vokmSub" || function->family == "vokmMul";
-        for (const ArgSpec& source : function->args) {
+        for (const ArgRecord& source : function->args) {
             if (!elementwise || source.written || source.kind != ArgKind::object) {
                 continue;
             }
             for (int draw = 0; draw < 300; ++draw) {
-                JobSpec spec;
-                spec.seed = seedOf(*function, draw);
-                Random random(spec.seed);
+                JobPlan plan;
+                plan.seed = seedOf(*function, draw);
+                Random random(plan.seed);
                 int n = 1 + int(random() % 8);
-                spec.sizes = equalSizes(*function, n, source.array ? 1 + int(random() % 9) : 1);
-                if (spec.sizes.count("width") && random() % 2) {
-                    spec.sizes["width"] = 1 + int(random() % 8);
+                plan.sizes = equalSizes(*function, n, source.array ? 1 + int(random() % 9) : 1);
+                if (plan.sizes.count("width") && random() % 2) {
+                    plan.sizes["width"] = 1 + int(random() % 8);
                 }
-                drawPatterns(spec, *function, drawStyle(random), random);
-                Pattern& shared = spec.patterns[source.name];
+                drawPatterns(plan, *function, drawStyle(random), random);
+                Pattern& shared = plan.patterns[source.name];
                 shared.sequence = 'a';
-                spec.patterns["dst"] = shared;
-                spec.overlay["dst"] = {source.name, 0};
-                Job job(*function, spec);
+                plan.patterns["dst"] = shared;
+                plan.overlay["dst"] = {source.name, 0};
+                Job job(*function, plan);
                 if (matrixMayBeInPlace(*function, job.kernel, source, n) && !report(job.check())) {
                     return;
                 }
@@ -122,20 +122,20 @@ protected:
     {
         for (const Function* function : functionsOf(group)) {
             for (int draw = 0; draw < 100; ++draw) {
-                JobSpec spec;
-                spec.seed = seedOf(*function, draw);
-                Random random(spec.seed);
-                spec.gap = 512;
-                spec.sizes = sizes;
+                JobPlan plan;
+                plan.seed = seedOf(*function, draw);
+                Random random(plan.seed);
+                plan.gap = 512;
+                plan.sizes = sizes;
                 if (function->array) {
-                    spec.sizes["count"] = 1 + draw % 9;
+                    plan.sizes["count"] = 1 + draw % 9;
                 }
                 if (draw % 2) {
-                    drawPatterns(spec, *function, drawStyle(random), random);
+                    drawPatterns(plan, *function, drawStyle(random), random);
                 } else {
-                    drawNearlyAligned(spec, *function, random);
+                    drawNearlyAligned(plan, *function, random);
                 }
-                Job job(*function, spec);
+                Job job(*function, plan);
                 prepare(job);
                 if (!report(job.check())) {
                     return;
@@ -183,12 +183,12 @@ TEST_F(OddKernels, SizesJoinedByOr)
                 if (!evaluate(function->match, [&](const std::string& name) { return drawn.at(name); })) {
                     continue;
                 }
-                JobSpec spec;
-                spec.seed = seedOf(*function, uint64_t(sizes));
-                Random random(spec.seed);
-                spec.sizes = drawn;
-                drawPatterns(spec, *function, drawStyle(random), random);
-                if (!report(Job(*function, spec).check())) {
+                JobPlan plan;
+                plan.seed = seedOf(*function, uint64_t(sizes));
+                Random random(plan.seed);
+                plan.sizes = drawn;
+                drawPatterns(plan, *function, drawStyle(random), random);
+                if (!report(Job(*function, plan).check())) {
                     return;
                 }
             }
@@ -205,19 +205,19 @@ TEST_F(OddKernels, TransposedArraysGoInTwos)
     const Function& function = functionNamed("vokmMul_tava_32f");
     for (int count = 1; count <= 9; ++count) {
         for (const char* misplaced : {"", "src1", "src2", "dst"}) {
-            JobSpec spec;
-            spec.seed = uint64_t(count);
-            spec.gap = 512;
-            spec.sizes = equalSizes(function, 3, count);
+            JobPlan plan;
+            plan.seed = uint64_t(count);
+            plan.gap = 512;
+            plan.sizes = equalSizes(function, 3, count);
             Pattern rows;
             rows.pad = 1;
             rows.roundObject = 16;
-            spec.patterns[""] = rows;
+            plan.patterns[""] = rows;
             if (*misplaced) {
                 rows.align = 4;
-                spec.patterns[misplaced] = rows;
+                plan.patterns[misplaced] = rows;
             }
-            Job job(function, spec);
+            Job job(function, plan);
             job.put<float>("src1", count, 1, 1, 3.0f);
             job.put<float>("src2", count, 0, 1, 5.0f);
             const char* behind = job.arena.live() + job.operands.at("dst").offset(count, 0, 1);
@@ -279,11 +279,11 @@ TEST_F(OddKernels, TraceOntoItsDiagonal)
         for (int n : {1, 2, 7, 8}) {
             for (int k = 0; k < n; ++k) {
                 for (int unit : {1, 2}) {
-                    JobSpec spec;
-                    spec.sizes = {{"widthHeight", n}};
-                    spec.patterns[""].unit = unit;
-                    spec.overlay["dst"] = {"src", int64_t(k) * (n + 1) * unit * function->elementSize()};
-                    report(Job(*function, spec).check());
+                    JobPlan plan;
+                    plan.sizes = {{"widthHeight", n}};
+                    plan.patterns[""].unit = unit;
+                    plan.overlay["dst"] = {"src", int64_t(k) * (n + 1) * unit * function->elementSize()};
+                    report(Job(*function, plan).check());
                 }
             }
         }

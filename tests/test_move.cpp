@@ -38,15 +38,15 @@ TEST_P(Moves, EveryBitArrives)
 {
     for (const Function* function : functions()) {
         for (int draw = 0; draw < 300; ++draw) {
-            JobSpec spec;
-            spec.seed = seedOf(*function, draw);
-            Random random(spec.seed);
-            spec.sizes = equalSizes(*function, 1 + int(random() % 12), 1 + int(random() % 9));
-            if (spec.sizes.count("width") && draw % 2) {
-                spec.sizes["width"] = 1 + int(random() % 24);
+            JobPlan plan;
+            plan.seed = seedOf(*function, draw);
+            Random random(plan.seed);
+            plan.sizes = equalSizes(*function, 1 + int(random() % 12), 1 + int(random() % 9));
+            if (plan.sizes.count("width") && draw % 2) {
+                plan.sizes["width"] = 1 + int(random() % 24);
             }
-            drawPatterns(spec, *function, drawStyle(random), random);
-            Job job(*function, spec);
+            drawPatterns(plan, *function, drawStyle(random), random);
+            Job job(*function, plan);
             const Operand& src = job.operands.at("src");
             const uint64_t quiet = function->isDouble ? 0x7FF0000000000001u : 0x7F800001u;
             for (int i = 0; i < src.shape.objects; ++i) {
@@ -82,13 +82,13 @@ TEST_P(OverlappingCopies, AreSequential)
 {
     for (const Function* function : functions()) {
         for (int draw = 0; draw < 200; ++draw) {
-            JobSpec spec;
-            spec.seed = seedOf(*function, draw);
-            Random random(spec.seed);
-            spec.sizes = equalSizes(*function, 1 + int(random() % 6), 1 + int(random() % 9));
-            drawPatterns(spec, *function, drawStyle(random), random);
-            spec.overlay["dst"] = {"src", int64_t(random() % 24) * function->elementSize()};
-            if (!report(Job(*function, spec).check())) {
+            JobPlan plan;
+            plan.seed = seedOf(*function, draw);
+            Random random(plan.seed);
+            plan.sizes = equalSizes(*function, 1 + int(random() % 6), 1 + int(random() % 9));
+            drawPatterns(plan, *function, drawStyle(random), random);
+            plan.overlay["dst"] = {"src", int64_t(random() % 24) * function->elementSize()};
+            if (!report(Job(*function, plan).check())) {
                 return;
             }
         }
@@ -102,9 +102,9 @@ TEST(LoadIdentity, OverlappingRows)
 {
     for (const Function* function : functionsOf("vokmLoadIdentity_ma")) {
         for (auto [width, height] : {std::pair{2, 3}, {3, 2}, {5, 5}, {2, 7}, {7, 7}}) {
-            JobSpec spec;
-            spec.sizes = {{"width", width}, {"height", height}, {"count", 3}};
-            Job job(*function, spec);
+            JobPlan plan;
+            plan.sizes = {{"width", width}, {"height", height}, {"count", 3}};
+            Job job(*function, plan);
             Operand& dst = job.operands.at("dst");
             for (int r = 0; r < height && dst.isTable(); ++r) {
                 for (int c = 0; c < width; ++c) {
@@ -206,13 +206,13 @@ TEST(Transpose, AsksForTheCache)
                 continue;
             }
             const Function& function = functionNamed(name);
-            JobSpec spec;
-            spec.sizes = {{"width", question.width}, {"height", question.height}};
+            JobPlan plan;
+            plan.sizes = {{"width", question.width}, {"height", question.height}};
             if (function.array) {
-                spec.sizes["count"] = question.count;
+                plan.sizes["count"] = question.count;
             }
-            spec.patterns[""].unit = question.unit;
-            Job job(function, spec);
+            plan.patterns[""].unit = question.unit;
+            Job job(function, plan);
             setCacheBytes(question.cache);
             EXPECT_EQ(job.check(), "");
             EXPECT_EQ(cacheQuestions(), question.questions) << job.describe() << " cache " << question.cache;
@@ -227,18 +227,18 @@ TEST(Transpose, LargeMatrices)
     for (const char* name : {"vokmTranspose_m_32f", "vokmTranspose_ma_32f", "vokmTranspose_ma_32f_L", "vokmTranspose_m_64f"}) {
         for (int draw = 0; draw < 120 && isDeclared(name); ++draw) {
             const Function& function = functionNamed(name);
-            JobSpec spec;
-            spec.seed = seedOf(function, draw);
-            Random random(spec.seed);
+            JobPlan plan;
+            plan.seed = seedOf(function, draw);
+            Random random(plan.seed);
             auto size = [&] {
                 return random() % 2 ? 1 + int(random() % 260) : 16 * (1 + int(random() % 14)) + int(random() % 2);
             };
-            spec.sizes = {{"width", size()}, {"height", size()}};
+            plan.sizes = {{"width", size()}, {"height", size()}};
             if (function.array) {
-                spec.sizes["count"] = 1 + int(random() % 3);
+                plan.sizes["count"] = 1 + int(random() % 3);
             }
-            drawPatterns(spec, function, random() % 2 ? Style::aligned : Style::dense, random);
-            Job job(function, spec);
+            drawPatterns(plan, function, random() % 2 ? Style::aligned : Style::dense, random);
+            Job job(function, plan);
             setCacheBytes(draw % 3 == 0 ? 0 : draw % 3 == 1 ? 4096 : plenty);
             EXPECT_EQ(job.check(), "");
         }
@@ -318,9 +318,9 @@ TEST(Transpose, OverlappingRowsOfSmallResults)
     for (const char* group : {"vokmTranspose_m", "vokmTranspose_ma"}) {
         for (const Function* function : functionsOf(group)) {
             for (int draw = 0; draw < 4 * 5 && function->layout() != 'P'; ++draw) {
-                JobSpec spec;
-                spec.sizes = equalSizes(*function, 3 + draw / 5, 3);
-                Job job(*function, spec);
+                JobPlan plan;
+                plan.sizes = equalSizes(*function, 3 + draw / 5, 3);
+                Job job(*function, plan);
                 Operand& dst = job.operands.at("dst");
                 dst.stride1 = (1 + draw % 5) * dst.elementSize;
                 job.arguments.integers["dstStride1"] = dst.stride1;

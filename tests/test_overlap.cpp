@@ -21,7 +21,7 @@ std::vector<std::string> groupsOf(const std::set<std::string>& families)
     return found;
 }
 
-bool sameKind(const ArgSpec& a, const ArgSpec& b)
+bool sameKind(const ArgRecord& a, const ArgRecord& b)
 {
     return a.kind == ArgKind::object && b.kind == ArgKind::object && a.array == b.array && a.letter == b.letter;
 }
@@ -31,24 +31,24 @@ class Overlap : public GroupTest {};
 TEST_P(Overlap, InPlace)
 {
     for (const Function* function : functions()) {
-        for (const ArgSpec& source : function->args) {
+        for (const ArgRecord& source : function->args) {
             if (source.written || !sameKind(source, function->arg("dst"))) {
                 continue;
             }
             for (int draw = 0; draw < 300; ++draw) {
-                JobSpec spec;
-                spec.seed = seedOf(*function, draw);
-                Random random(spec.seed);
+                JobPlan plan;
+                plan.seed = seedOf(*function, draw);
+                Random random(plan.seed);
                 int n = draw % 4 ? 3 + int(random() % 4) : 1 + int(random() % 20);
                 const bool longRun = draw % 30 == 0;
-                spec.sizes = equalSizes(*function, n, longRun ? 200 + int(random() % 300) : 1 + int(random() % 9));
-                spec.gap = 8192;
-                drawPatterns(spec, *function, longRun ? Style::tight : drawStyle(random), random);
-                Pattern& shared = spec.patterns[source.name];
+                plan.sizes = equalSizes(*function, n, longRun ? 200 + int(random() % 300) : 1 + int(random() % 9));
+                plan.gap = 8192;
+                drawPatterns(plan, *function, longRun ? Style::tight : drawStyle(random), random);
+                Pattern& shared = plan.patterns[source.name];
                 shared.sequence = 'a';
-                spec.patterns["dst"] = shared;
-                spec.overlay["dst"] = {source.name, 0};
-                if (!report(Job(*function, spec).check())) {
+                plan.patterns["dst"] = shared;
+                plan.overlay["dst"] = {source.name, 0};
+                if (!report(Job(*function, plan).check())) {
                     return;
                 }
             }
@@ -62,32 +62,32 @@ class AcrossArrays : public GroupTest {};
 TEST_P(AcrossArrays, ObjectsAreFinishedInTurn)
 {
     for (const Function* function : functions()) {
-        std::vector<const ArgSpec*> sources, results;
-        for (const ArgSpec& arg : function->args) {
+        std::vector<const ArgRecord*> sources, results;
+        for (const ArgRecord& arg : function->args) {
             if (arg.array && (arg.kind == ArgKind::object || arg.kind == ArgKind::scalars)) {
                 (arg.written ? results : sources).push_back(&arg);
             }
         }
         for (int draw = 0; draw < 120 && !sources.empty() && !results.empty(); ++draw) {
-            JobSpec spec;
-            spec.seed = seedOf(*function, 11000 + draw);
-            Random random(spec.seed);
+            JobPlan plan;
+            plan.seed = seedOf(*function, 11000 + draw);
+            Random random(plan.seed);
             const int count = draw % 3 ? 4 + int(random() % 20) : 64 + int(random() % 40);
-            spec.sizes = equalSizes(*function, 3 + int(random() % (draw % 4 ? 4 : 8)), count);
-            drawPatterns(spec, *function, draw % 2 ? Style::tight : drawStyle(random), random);
+            plan.sizes = equalSizes(*function, 3 + int(random() % (draw % 4 ? 4 : 8)), count);
+            drawPatterns(plan, *function, draw % 2 ? Style::tight : drawStyle(random), random);
             const std::string source = sources[random() % sources.size()]->name,
                               result = results[random() % results.size()]->name;
             if (draw / 2 % 2) {
-                spec.patterns[source].sequence = 'a';
-                spec.patterns[result] = spec.patterns[source];
+                plan.patterns[source].sequence = 'a';
+                plan.patterns[result] = plan.patterns[source];
             }
-            const Operand under = Job(*function, spec).operands.at(source);
+            const Operand under = Job(*function, plan).operands.at(source);
             const int object = int(random() % (draw / 4 % 2 ? 4 : count)), row = int(random() % under.logicalRows()),
                       col = int(random() % under.logicalCols());
             const bool whole = draw / 8 % 2;
             const int64_t place = whole ? under.offset(object, 0, 0) : under.offset(object, row, col);
-            spec.overlay[result] = {source, place - under.base};
-            Job job(*function, spec);
+            plan.overlay[result] = {source, place - under.base};
+            Job job(*function, plan);
             if (overlapIsDefined(job) && !report(job.check())) {
                 return;
             }
@@ -101,24 +101,24 @@ INSTANTIATE_TEST_SUITE_P(Form, AcrossArrays, testing::ValuesIn(declaredGroups())
 TEST_P(Overlap, SingleSourceUnderTheDestination)
 {
     for (const Function* function : functions()) {
-        for (const ArgSpec& source : function->args) {
+        for (const ArgRecord& source : function->args) {
             bool single = source.letter == 'v' && !source.array && !source.written && function->array;
             if (!single || function->form.find('c') != std::string::npos) {
                 continue;
             }
             for (int draw = 0; draw < 60; ++draw) {
-                JobSpec spec;
-                spec.seed = seedOf(*function, draw);
-                spec.sizes = equalSizes(*function, 1 + draw % 9, 3 + draw % 5);
+                JobPlan plan;
+                plan.seed = seedOf(*function, draw);
+                plan.sizes = equalSizes(*function, 1 + draw % 9, 3 + draw % 5);
                 Pattern pattern;
                 pattern.unit = 1 + draw / 9 % 2;
                 pattern.pad = draw % 3;
                 pattern.align = draw % 5 * function->elementSize();
                 pattern.roundObject = draw % 2 * 16;
-                spec.patterns[""] = pattern;
-                spec.gap = 4096;
-                spec.overlay["dst"] = {source.name, 0};
-                if (!report(Job(*function, spec).check())) {
+                plan.patterns[""] = pattern;
+                plan.gap = 4096;
+                plan.overlay["dst"] = {source.name, 0};
+                if (!report(Job(*function, plan).check())) {
                     return;
                 }
             }
@@ -130,15 +130,15 @@ INSTANTIATE_TEST_SUITE_P(Form, Overlap,
     testing::ValuesIn(groupsOf({"vokmAdd", "vokmSub", "vokmMul", "vokmSaxpy", "vokmLComb", "vokmCrossProduct"})), groupName);
 
 // From 7 elements on, one vector that overlaps its source by any distance is done element by element, ascending.
-void ascendAt(const Function& function, const ArgSpec& source, int64_t bytes)
+void ascendAt(const Function& function, const ArgRecord& source, int64_t bytes)
 {
-    JobSpec spec;
-    spec.seed = seedOf(function, bytes + 1000);
-    spec.sizes = equalSizes(function, 7 + int(spec.seed % 18), 1);
-    spec.patterns[""].align = int(spec.seed / 64 % 4) * function.elementSize();
-    spec.gap = 4096;
-    spec.overlay["dst"] = {source.name, bytes};
-    EXPECT_EQ(Job(function, spec).check(), "") << "dst " << bytes << " bytes behind " << source.name;
+    JobPlan plan;
+    plan.seed = seedOf(function, bytes + 1000);
+    plan.sizes = equalSizes(function, 7 + int(plan.seed % 18), 1);
+    plan.patterns[""].align = int(plan.seed / 64 % 4) * function.elementSize();
+    plan.gap = 4096;
+    plan.overlay["dst"] = {source.name, bytes};
+    EXPECT_EQ(Job(function, plan).check(), "") << "dst " << bytes << " bytes behind " << source.name;
 }
 
 class OverlappingVectors : public testing::TestWithParam<const char*> {
@@ -146,7 +146,7 @@ protected:
     void ascend(int64_t offset, int step)
     {  // in halves of an element
         for (const Function* function : functionsOf(GetParam())) {
-            for (const ArgSpec& source : function->args) {
+            for (const ArgRecord& source : function->args) {
                 for (int64_t half = -52 + offset; half <= 52 && source.letter == 'v' && !source.written; half += step) {
                     ascendAt(*function, source, half * function->elementSize() / 2);
                 }
@@ -170,12 +170,12 @@ TEST(UnalignedVectors, AreSummedAscending)
         for (const Function* function : functionsOf(group)) {
             for (int align = 1; align < 16; ++align) {
                 for (int length = 1; length < 40; ++length) {
-                    JobSpec spec;
-                    spec.seed = seedOf(*function, align * 64 + length);
-                    spec.sizes = equalSizes(*function, length, 1);
-                    spec.patterns[function->args[0].name].align = align;
-                    spec.patterns["src2"].align = 16 - align;
-                    EXPECT_EQ(Job(*function, spec).check(), "");
+                    JobPlan plan;
+                    plan.seed = seedOf(*function, align * 64 + length);
+                    plan.sizes = equalSizes(*function, length, 1);
+                    plan.patterns[function->args[0].name].align = align;
+                    plan.patterns["src2"].align = 16 - align;
+                    EXPECT_EQ(Job(*function, plan).check(), "");
                 }
             }
         }

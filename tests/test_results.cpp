@@ -22,13 +22,13 @@ TEST_P(Results, EveryLayoutAndSize)
             GTEST_SKIP() << "no oracle for " << function->group();
         }
         for (int draw = 0; draw < draws; ++draw) {
-            JobSpec spec;
-            spec.seed = seedOf(*function, draw);
-            Random random(spec.seed);
-            spec.sizes = drawAgreeingSizes(*function, random);
-            drawPatterns(spec, *function, drawStyle(random), random);
-            spec.values = drawValues(random);
-            if (!report(Job(*function, spec).check())) {
+            JobPlan plan;
+            plan.seed = seedOf(*function, draw);
+            Random random(plan.seed);
+            plan.sizes = drawAgreeingSizes(*function, random);
+            drawPatterns(plan, *function, drawStyle(random), random);
+            plan.values = drawValues(random);
+            if (!report(Job(*function, plan).check())) {
                 return;
             }
         }
@@ -42,13 +42,13 @@ TEST_P(Results, LongArrays)
     for (const Function* function : functions()) {
         const bool mayBeWide = function->array && function->layout() != 'L' && Oracle::find(function->group());
         for (int draw = function->layout() == 'S' ? 0 : 12; draw < 20 && mayBeWide; ++draw) {
-            JobSpec spec;
-            spec.seed = seedOf(*function, 7000 + draw);
-            Random random(spec.seed);
-            spec.sizes = equalSizes(*function, 3 + draw % 4, draw < 4 ? 3000 + int(random() % 100) : 60 + int(random() % 600));
-            drawPatterns(spec, *function, function->layout() == 'P' || draw >= 16 ? Style::planes : Style::tight, random);
-            spec.values = drawValues(random);
-            if (!report(Job(*function, spec).check())) {
+            JobPlan plan;
+            plan.seed = seedOf(*function, 7000 + draw);
+            Random random(plan.seed);
+            plan.sizes = equalSizes(*function, 3 + draw % 4, draw < 4 ? 3000 + int(random() % 100) : 60 + int(random() % 600));
+            drawPatterns(plan, *function, function->layout() == 'P' || draw >= 16 ? Style::planes : Style::tight, random);
+            plan.values = drawValues(random);
+            if (!report(Job(*function, plan).check())) {
                 break;
             }
         }
@@ -67,18 +67,18 @@ TEST_P(Results, LargeArrays)
         if (function->layout() != 'S' || !function->array || !(elementwise || others.count(family))) {
             continue;
         }
-        JobSpec spec;
-        spec.seed = seedOf(*function, 9000);
-        Random random(spec.seed);
+        JobPlan plan;
+        plan.seed = seedOf(*function, 9000);
+        Random random(plan.seed);
         const int n = elementwise ? 3 + int(random() % 4) : 3;
         int64_t elements = 0;
-        for (const ArgSpec& arg : function->args) {
+        for (const ArgRecord& arg : function->args) {
             const bool matrix = arg.letter == 'm' || arg.letter == 't';
             elements += arg.kind == ArgKind::scalars ? 1 : !arg.array ? 0 : arg.letter == 'c' ? 1 : matrix ? n * n : n;
         }
-        spec.sizes = equalSizes(*function, n, int((25 << 20) / (elements * function->elementSize())));
-        drawPatterns(spec, *function, Style::tight, random);
-        EXPECT_TRUE(report(Job(*function, spec).check()));
+        plan.sizes = equalSizes(*function, n, int((25 << 20) / (elements * function->elementSize())));
+        drawPatterns(plan, *function, Style::tight, random);
+        EXPECT_TRUE(report(Job(*function, plan).check()));
     }
 }
 
@@ -87,15 +87,15 @@ TEST_P(Results, PointersBetweenElements)
 {
     for (const Function* function : functions()) {
         for (int draw = 0; draw < 60 && Oracle::find(function->group()); ++draw) {
-            JobSpec spec;
-            spec.seed = seedOf(*function, 5000 + draw);
-            Random random(spec.seed);
-            spec.sizes = drawAgreeingSizes(*function, random);
-            drawPatterns(spec, *function, drawStyle(random), random);
-            for (auto& [name, pattern] : spec.patterns) {
+            JobPlan plan;
+            plan.seed = seedOf(*function, 5000 + draw);
+            Random random(plan.seed);
+            plan.sizes = drawAgreeingSizes(*function, random);
+            drawPatterns(plan, *function, drawStyle(random), random);
+            for (auto& [name, pattern] : plan.patterns) {
                 pattern.align += int(random() % function->elementSize());
             }
-            if (!report(Job(*function, spec).check())) {
+            if (!report(Job(*function, plan).check())) {
                 return;
             }
         }

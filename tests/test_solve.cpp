@@ -388,17 +388,17 @@ TEST(SolversInPlace, WhereItIsPromised)
     for (const InPlace& promise : solversInPlace) {
         for (const Function* function : functionsOf(promise.group)) {
             for (int draw = 0; draw < 200; ++draw) {
-                JobSpec spec;
-                spec.seed = seedOf(*function, draw);
-                Random random(spec.seed);
-                spec.sizes = equalSizes(*function, promise.from + draw % (promise.to - promise.from + 1), 1 + int(random() % 9));
-                spec.gap = 8192;
-                drawPatterns(spec, *function, drawStyle(random), random);
-                Pattern& shared = spec.patterns[promise.source];
+                JobPlan plan;
+                plan.seed = seedOf(*function, draw);
+                Random random(plan.seed);
+                plan.sizes = equalSizes(*function, promise.from + draw % (promise.to - promise.from + 1), 1 + int(random() % 9));
+                plan.gap = 8192;
+                drawPatterns(plan, *function, drawStyle(random), random);
+                Pattern& shared = plan.patterns[promise.source];
                 shared.sequence = 'a';
-                spec.patterns["dst"] = shared;
-                spec.overlay["dst"] = {promise.source, 0};
-                ASSERT_EQ(Job(*function, spec).check(), "");
+                plan.patterns["dst"] = shared;
+                plan.overlay["dst"] = {promise.source, 0};
+                ASSERT_EQ(Job(*function, plan).check(), "");
             }
         }
     }

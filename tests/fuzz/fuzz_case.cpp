@@ -16,7 +16,7 @@ namespace {
 
 using namespace harness;
 
-bool isIn(const ArgSpec& arg) { return arg.kind != ArgKind::real && arg.kind != ArgKind::integer; }
+bool isIn(const ArgRecord& arg) { return arg.kind != ArgKind::real && arg.kind != ArgKind::integer; }
 
 // Makes a job of choices, in the order of the input: function, sizes, threads, values, layout, overlap, single values, faults.
 class Case {
@@ -26,19 +26,19 @@ public:
         chooseSizes();
         chooseCount();
         const int kind = choices.below(8);
-        spec.values = kind < 5 ? Values::ordinary : kind < 7 ? Values::special : Values::zeros;
-        spec.seed = uint64_t(choices.byte());
-        spec.gap = 640;
+        plan.values = kind < 5 ? Values::ordinary : kind < 7 ? Values::special : Values::zeros;
+        plan.seed = uint64_t(choices.byte());
+        plan.gap = 640;
         choosePatterns();
         chooseOverlap();
         chooseGuard();
-        job = std::make_unique<Job>(function, spec);
+        job = std::make_unique<Job>(function, plan);
         if (mayOverlap && !overlapIsDefined(*job)) {
-            spec.overlay.clear();
-            for (auto& [name, pattern] : spec.patterns) {
+            plan.overlay.clear();
+            for (auto& [name, pattern] : plan.patterns) {
                 pattern.steps[0] = 0;
             }
-            job = std::make_unique<Job>(function, spec);
+            job = std::make_unique<Job>(function, plan);
         }
         function.isDouble ? chooseValues<double>() : chooseValues<float>();
         setCacheBytes(choices.of({0, 10, 4096, 100000, 1 << 30}));
@@ -60,7 +60,7 @@ public:
     std::string describe() const
     {
         std::string text = job->describe();
-        for (auto& [name, over] : spec.overlay) {
+        for (auto& [name, over] : plan.overlay) {
             text += " [" + name + " at " + over.first + " + " + std::to_string(over.second) + "]";
         }
         return text;
@@ -77,7 +77,7 @@ private:
     bool hasMatrices() const
     {
         return std::any_of(
-            function.args.begin(), function.args.end(), [](const ArgSpec& arg) { return arg.letter == 'm' || arg.letter == 't'; });
+            function.args.begin(), function.args.end(), [](const ArgRecord& arg) { return arg.letter == 'm' || arg.letter == 't'; });
     }
     bool isCubic() const
     {
@@ -97,28 +97,28 @@ private:
     void chooseSizes()
     {
         const int n = chooseSize(), way = choices.below(4);
-        spec.sizes = equalSizes(function, n, 1);
+        plan.sizes = equalSizes(function, n, 1);
         if (way == 3) {
-            for (auto& [name, value] : spec.sizes) {
+            for (auto& [name, value] : plan.sizes) {
                 value = name == "count" ? 1 : chooseSize();
             }
         } else if (way == 2) {
             Random random{uint64_t(choices.byte())};
-            spec.sizes = drawAgreeingSizes(function, random);
+            plan.sizes = drawAgreeingSizes(function, random);
             const int largest = isEigen() ? 9 : 24;
-            for (auto& [name, value] : spec.sizes) {
+            for (auto& [name, value] : plan.sizes) {
                 value = isCubic() ? (value - 1) % largest + 1 : value;
             }
         }
         if (function.form == "-") {
-            spec.sizes["widthHeight"] = int32_t(choices.word());
+            plan.sizes["widthHeight"] = int32_t(choices.word());
         }
     }
 
     double largestSize() const
     {
         double largest = 1;
-        for (auto& [name, value] : spec.sizes) {
+        for (auto& [name, value] : plan.sizes) {
             largest = name == "count" ? largest : std::max(largest, double(value));
         }
         return largest;
@@ -127,25 +127,25 @@ private:
     // About what the slow evaluation does for one object.
     double workOfOne() const { return elementsOfOne() * (isCubic() ? largestSize() : 1) * (isEigen() ? 3 : 1); }
     // The search for overlaps looks at pairs of elements.
-    bool isSmall() const { return (function.array ? spec.sizes.at("count") : 1) * elementsOfOne() <= 1000; }
+    bool isSmall() const { return (function.array ? plan.sizes.at("count") : 1) * elementsOfOne() <= 1000; }
 
     void chooseCount()
     {
         const int choice = choices.byte();
-        spec.threads = 1 + choices.below(5);
-        spec.laterThreads = choices.oneIn(8) ? 1 + choices.below(spec.threads) : -1;
+        plan.threads = 1 + choices.below(5);
+        plan.laterThreads = choices.oneIn(8) ? 1 + choices.below(plan.threads) : -1;
         if (!function.array) {
             return;
         }
         const int most = std::max(1, int(60000 / workOfOne()));
-        spec.sizes["count"] = std::min(most, 1 + choice % 32);
+        plan.sizes["count"] = std::min(most, 1 + choice % 32);
         if (choice >= 240 && function.wrapper) {
             int low = 0, high = 4096;  // serial at low, parallel at high
             while (high - low > 1) {
-                spec.sizes["count"] = (low + high) / 2;
-                (wantsThreads(function, spec.sizes) ? high : low) = spec.sizes["count"];
+                plan.sizes["count"] = (low + high) / 2;
+                (wantsThreads(function, plan.sizes) ? high : low) = plan.sizes["count"];
             }
-            spec.sizes["count"] = std::min({4 * most, 3000, std::max(1, high + choice % 8 - 3)});
+            plan.sizes["count"] = std::min({4 * most, 3000, std::max(1, high + choice % 8 - 3)});
         }
     }
 
@@ -167,12 +167,12 @@ private:
     void choosePatterns()
     {
         const Pattern common = choosePattern();
-        for (const ArgSpec& arg : function.args) {
+        for (const ArgRecord& arg : function.args) {
             if (!isIn(arg)) {
                 continue;
             }
             const int departs = choices.byte();
-            Pattern& own = spec.patterns[arg.name] = departs % 4 == 3 ? choosePattern() : common;
+            Pattern& own = plan.patterns[arg.name] = departs % 4 == 3 ? choosePattern() : common;
             if (departs % 4 == 2) {
                 own.align = departs / 4 % (64 / function.elementSize()) * function.elementSize();
             }
@@ -192,8 +192,8 @@ private:
         if (choice % 4 != 3) {
             return;
         }
-        std::vector<const ArgSpec*> sources, results;
-        for (const ArgSpec& arg : function.args) {
+        std::vector<const ArgRecord*> sources, results;
+        for (const ArgRecord& arg : function.args) {
             if (arg.kind == ArgKind::object || arg.kind == ArgKind::scalars) {
                 (arg.written ? results : sources).push_back(&arg);
             }
@@ -201,25 +201,25 @@ private:
         if (sources.empty() || results.empty() || !isSmall()) {
             return;
         }
-        const ArgSpec& source = *sources[choice / 4 % sources.size()];
-        const ArgSpec& result = *results[choice / 16 % results.size()];
+        const ArgRecord& source = *sources[choice / 4 % sources.size()];
+        const ArgRecord& result = *results[choice / 16 % results.size()];
         mayOverlap = true;
-        spec.gap = 4096;
+        plan.gap = 4096;
         const int how = choices.below(4), distance = choices.byte() - 128;
         if (how < 3) {
-            spec.patterns[source.name].sequence = how == 2 ? spec.patterns[source.name].sequence : 'a';
-            spec.patterns[result.name] = spec.patterns[source.name];
+            plan.patterns[source.name].sequence = how == 2 ? plan.patterns[source.name].sequence : 'a';
+            plan.patterns[result.name] = plan.patterns[source.name];
         }
-        spec.overlay[result.name] = {source.name, how == 0 ? 0 : distance * (how == 3 ? 2 : function.elementSize())};
+        plan.overlay[result.name] = {source.name, how == 0 ? 0 : distance * (how == 3 ? 2 : function.elementSize())};
     }
 
     // A stop inside a thread could not be told.
     void chooseGuard()
     {
         const int choice = choices.below(8);
-        if (choice >= 6 && !mayOverlap && spec.threads == 1) {
-            spec.guard = choice == 6 ? Guard::before : Guard::behind;
-            spec.beyond = [this](const Operand& operand) { return touchedBehind(function, spec.sizes, operand); };
+        if (choice >= 6 && !mayOverlap && plan.threads == 1) {
+            plan.guard = choice == 6 ? Guard::before : Guard::behind;
+            plan.beyond = [this](const Operand& operand) { return touchedBehind(function, plan.sizes, operand); };
         }
     }
 
@@ -250,7 +250,7 @@ private:
     template <class T> void chooseValues()
     {
         std::vector<std::string> names;
-        for (const ArgSpec& arg : function.args) {
+        for (const ArgRecord& arg : function.args) {
             if (arg.kind == ArgKind::object && !arg.written) {
                 names.push_back(arg.name);
             }
@@ -310,11 +310,11 @@ private:
     // back by as much, the distance to a next object where there is none.
     void keepHarmless(const Arguments& odd)
     {
-        if (spec.guard != Guard::none) {
+        if (plan.guard != Guard::none) {
             return;  // the tables in use stand elsewhere
         }
         for (auto& [name, operand] : job->operands) {
-            const std::string shift = operand.spec.prefix + "ObjShift", stride0 = operand.spec.prefix + "Stride0";
+            const std::string shift = operand.arg.prefix + "ObjShift", stride0 = operand.arg.prefix + "Stride0";
             auto& integers = job->arguments.integers;
             if (integers.count(shift)) {
                 for (char*& entry : operand.entries) {
@@ -332,7 +332,7 @@ private:
 
     Choices choices;
     const Function& function;
-    JobSpec spec;
+    JobPlan plan;
     bool mayOverlap = false;
     std::unique_ptr<Job> job;
 };

@@ -37,7 +37,7 @@ int64_t Operand::offset(int object, int row, int col) const
 
 int64_t Operand::lay(const Pattern& pattern, Random&)
 {
-    bool dense = spec.kind != ArgKind::object;  // results without strides
+    bool dense = arg.kind != ArgKind::object;  // results without strides
     int64_t step = dense ? elementSize : int64_t(pattern.unit) * elementSize;
     for (char loop : dense ? std::string("cro") : pattern.nest) {
         int64_t extent = loop == 'o' ? shape.objects : loop == 'r' ? shape.rows : shape.cols;
@@ -61,7 +61,7 @@ int64_t Operand::lay(const Pattern& pattern, Random&)
 void Operand::place(int64_t start, const Pattern& pattern, Random& random)
 {
     base = start;
-    shift = spec.kind == ArgKind::object ? int64_t(pattern.shift) * elementSize : 0;
+    shift = arg.kind == ArgKind::object ? int64_t(pattern.shift) * elementSize : 0;
     int entriesCount = isTable() ? shape.rows * shape.cols : isList() ? shape.objects : 0;
     places.assign(entriesCount, 0);
     std::vector<int> order(entriesCount);
@@ -88,14 +88,14 @@ void Operand::bind(char* live, Arguments& arguments)
             entries.push_back(live + place - shift);
         }
         entriesBefore = entries;
-        arguments.pointers[spec.name] = entries.data();
+        arguments.pointers[arg.name] = entries.data();
     } else {
-        arguments.pointers[spec.name] = live + base;
+        arguments.pointers[arg.name] = live + base;
     }
     std::map<std::string, int32_t> values = {{"Stride0", int32_t(stride0)}, {"Stride1", int32_t(stride1)},
         {"Stride2", int32_t(stride2)}, {"ObjShift", int32_t(shift)}};
     for (auto& [name, value] : values) {
-        arguments.integers[spec.prefix + name] = value;
+        arguments.integers[arg.prefix + name] = value;
     }
 }
 

@@ -35,7 +35,7 @@ struct Shape {
 };
 
 struct Operand {
-    ArgSpec spec;
+    ArgRecord arg;
     Shape shape;
     int elementSize = 4;
     int64_t base = 0;  // offset of the first element in the arena
@@ -45,8 +45,8 @@ struct Operand {
     std::vector<char*> entries, entriesBefore;
     int spareEntries = 0;                    // behind the end of a table, leading behind the last element
 
-    bool isList() const { return spec.layout == 'L' && spec.array && spec.kind == ArgKind::object; }
-    bool isTable() const { return spec.layout == 'P' && spec.kind == ArgKind::object && spec.letter != 'c'; }
+    bool isList() const { return arg.layout == 'L' && arg.array && arg.kind == ArgKind::object; }
+    bool isTable() const { return arg.layout == 'P' && arg.kind == ArgKind::object && arg.letter != 'c'; }
     int64_t offset(int object, int row, int col) const;  // row and col as the operation sees them
     int64_t storedOffset(int object, int row, int col) const;
     int logicalRows() const { return shape.transposed ? shape.cols : shape.rows; }

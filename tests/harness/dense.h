@@ -17,7 +17,7 @@ public:
         : function(functionNamed(name)), integers(std::move(sizes))
     {
         int objects = function.array ? integers.at("count") : 1;
-        for (const ArgSpec& arg : function.args) {
+        for (const ArgRecord& arg : function.args) {
             if (arg.kind == ArgKind::integer || arg.kind == ArgKind::real) {
                 continue;
             }

@@ -49,9 +49,9 @@ std::vector<std::string> codesOf(const std::string& form)
     return codes;
 }
 
-ArgSpec parseArg(const std::string& token, const std::vector<std::string>& codes, bool array)
+ArgRecord parseArg(const std::string& token, const std::vector<std::string>& codes, bool array)
 {
-    ArgSpec arg;
+    ArgRecord arg;
     size_t end = token.find_first_of("=:[{");
     arg.name = arg.prefix = token.substr(0, end);
     if (size_t slash = arg.name.find('/'); slash != std::string::npos) {
@@ -150,7 +150,7 @@ struct Table {
         for (const std::string& token : words(expand(cells[2]))) {
             if (token != "count" || f.array) {
                 f.args.push_back(parseArg(token, codes, f.array));
-                ArgSpec& arg = f.args.back();
+                ArgRecord& arg = f.args.back();
                 arg.layout = layouts[arg.written ? layouts.size() - 1 : 0];
             }
         }
@@ -305,16 +305,16 @@ private:
 
 }  // namespace
 
-const ArgSpec& Function::arg(const std::string& argName) const
+const ArgRecord& Function::arg(const std::string& argName) const
 {
-    return *std::find_if(args.begin(), args.end(), [&](const ArgSpec& a) { return a.name == argName; });
+    return *std::find_if(args.begin(), args.end(), [&](const ArgRecord& a) { return a.name == argName; });
 }
 
 std::vector<Param> Function::params() const
 {
     std::vector<Param> list;
     ParamClass real = isDouble ? ParamClass::real : ParamClass::single;
-    for (const ArgSpec& arg : args) {
+    for (const ArgRecord& arg : args) {
         bool integer = arg.kind == ArgKind::integer;
         list.push_back({arg.name, arg.kind == ArgKind::real ? real : integer ? ParamClass::integer : ParamClass::pointer});
         if (arg.kind != ArgKind::object) {

@@ -19,7 +19,7 @@ enum class ArgKind {
     integer   // a size or the count
 };
 
-struct ArgSpec {
+struct ArgRecord {
     std::string name;
     std::string prefix;  // of its strides and shift; differs from the name in a few eigenproblem forms
     ArgKind kind = ArgKind::integer;
@@ -35,7 +35,7 @@ struct Function {
     std::string name, family, form, suffix;
     bool isDouble = false;
     bool array = false;
-    std::vector<ArgSpec> args;
+    std::vector<ArgRecord> args;
     std::string order;                  // steps of the checks, see below
     std::vector<std::string> untested;  // strides that the stride step leaves out
     int spareEntries = 0;               // of each table, behind its end, for kernels that go there
@@ -52,7 +52,7 @@ struct Function {
     char layout() const { return suffix.empty() ? 'S' : suffix.back(); }
     std::string group() const { return family + "_" + form; }
     std::vector<Param> params() const;  // the argument list that follows from the record
-    const ArgSpec& arg(const std::string& argName) const;
+    const ArgRecord& arg(const std::string& argName) const;
 };
 
 const std::vector<Function>& allFunctions();

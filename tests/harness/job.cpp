@@ -16,10 +16,10 @@ std::map<std::string, const Oracle*>& oracles()
     return known;
 }
 
-int count(const JobSpec& spec)
+int count(const JobPlan& plan)
 {
-    auto found = spec.sizes.find("count");
-    return found == spec.sizes.end() ? 1 : found->second;
+    auto found = plan.sizes.find("count");
+    return found == plan.sizes.end() ? 1 : found->second;
 }
 
 template <class T> T ordinaryValue(Random& random)
@@ -64,10 +64,10 @@ const Oracle* Oracle::find(const std::string& group)
     return found == oracles().end() ? nullptr : found->second;
 }
 
-Job::Job(const Function& described, const JobSpec& wanted) : function(described), spec(wanted)
+Job::Job(const Function& described, const JobPlan& wanted) : function(described), plan(wanted)
 {
-    Random random(spec.seed * 0x9E3779B97F4A7C15u + 1);
-    arguments.integers = spec.sizes;
+    Random random(plan.seed * 0x9E3779B97F4A7C15u + 1);
+    arguments.integers = plan.sizes;
     layOut(random);
     fill(random);
     char layout = function.layout();
@@ -77,32 +77,32 @@ Job::Job(const Function& described, const JobSpec& wanted) : function(described)
 
 void Job::layOut(Random& random)
 {
-    const int64_t gap = spec.gap;
+    const int64_t gap = plan.gap;
     int64_t end = gap;
     auto size = [this](const std::string& name) { return arguments.integers.at(name == "n" ? "widthHeight" : name); };
-    for (const ArgSpec& arg : function.args) {
+    for (const ArgRecord& arg : function.args) {
         if (arg.kind == ArgKind::real || arg.kind == ArgKind::integer) {
             continue;
         }
         Operand operand;
-        operand.spec = arg;
+        operand.arg = arg;
         operand.elementSize = arg.kind == ArgKind::indices ? 4 : function.elementSize();
-        operand.shape = {arg.array && arg.kind != ArgKind::scratch ? count(spec) : 1, evaluate(arg.rows, size),
+        operand.shape = {arg.array && arg.kind != ArgKind::scratch ? count(plan) : 1, evaluate(arg.rows, size),
             evaluate(arg.cols, size), arg.letter == 't'};
         if (arg.letter == 't' && !arg.storedShape) {
             std::swap(operand.shape.rows, operand.shape.cols);
         }
-        auto chosen = spec.patterns.find(arg.name);
-        const Pattern pattern = chosen == spec.patterns.end() ? spec.patterns[""] : chosen->second;
+        auto chosen = plan.patterns.find(arg.name);
+        const Pattern pattern = chosen == plan.patterns.end() ? plan.patterns[""] : chosen->second;
         int64_t extent = operand.lay(pattern, random);
         int64_t start = (end + 63) / 64 * 64 + pattern.align;
-        if (spec.guard != Guard::none) {
-            extent += spec.beyond ? spec.beyond(operand) : 0;
+        if (plan.guard != Guard::none) {
+            extent += plan.beyond ? plan.beyond(operand) : 0;
             pages.emplace_back(end, extent, arg.written);
-            start = pages.back().startOf(extent, spec.guard);
+            start = pages.back().startOf(extent, plan.guard);
             extent = pages.back().last - start;
         }
-        if (auto over = spec.overlay.find(arg.name); over != spec.overlay.end()) {
+        if (auto over = plan.overlay.find(arg.name); over != plan.overlay.end()) {
             start = operands.at(over->second.first).base + over->second.second;
         }
         operand.spareEntries = function.spareEntries;
@@ -111,11 +111,11 @@ void Job::layOut(Random& random)
         operands[arg.name] = operand;
         laid.push_back(arg.name);
     }
-    arena.allocate(spec.guard == Guard::none ? end : wholePages(end) + pageBytes);
+    arena.allocate(plan.guard == Guard::none ? end : wholePages(end) + pageBytes);
     for (const std::string& name : laid) {
         operands[name].bind(arena.live(), arguments);
     }
-    if (spec.guard != Guard::none) {
+    if (plan.guard != Guard::none) {
         fenceTables();
     }
     std::map<std::string, int32_t> declared;
@@ -135,7 +135,7 @@ void Job::fenceTables()
         const int64_t bytes = int64_t(operands.at(name).entries.size() * sizeof(char*));
         if (bytes > 0) {
             tablePages.emplace_back(end, bytes, false);
-            start[name] = tablePages.back().startOf(bytes, spec.guard);
+            start[name] = tablePages.back().startOf(bytes, plan.guard);
             end = tablePages.back().last;
         }
     }
@@ -168,35 +168,35 @@ template <class T> void Job::fillAs(Random& random)
     }
     for (const std::string& name : laid) {
         const Operand& operand = operands.at(name);
-        if (operand.spec.kind != ArgKind::object || operand.spec.written) {
+        if (operand.arg.kind != ArgKind::object || operand.arg.written) {
             continue;
         }
         for (int i = 0; i < operand.shape.objects; ++i) {
             for (int r = 0; r < operand.shape.rows; ++r) {
                 for (int c = 0; c < operand.shape.cols; ++c) {
-                    store<T>(arena.live() + operand.storedOffset(i, r, c), someValue<T>(spec.values, random));
+                    store<T>(arena.live() + operand.storedOffset(i, r, c), someValue<T>(plan.values, random));
                 }
             }
         }
     }
-    for (const ArgSpec& arg : function.args) {
+    for (const ArgRecord& arg : function.args) {
         if (arg.kind == ArgKind::real) {
-            arguments.reals[arg.name] = someValue<T>(spec.values, random);
+            arguments.reals[arg.name] = someValue<T>(plan.values, random);
         }
     }
 }
 
 bool Job::goesParallel() const
 {
-    return wantsThreads(function, arguments.integers) && spec.threads > 1 && count(spec) >= spec.threads;
+    return wantsThreads(function, arguments.integers) && plan.threads > 1 && count(plan) >= plan.threads;
 }
 
 int Job::expectedQuestions() const { return !wantsThreads(function, arguments.integers) ? 0 : goesParallel() ? 2 : 1; }
 
 int32_t Job::runLibrary()
 {
-    setThreads(spec.threads, spec.laterThreads);
-    if (spec.guard == Guard::none) {
+    setThreads(plan.threads, plan.laterThreads);
+    if (plan.guard == Guard::none) {
         return call(function.name, arguments);
     }
     int32_t status = 0;
@@ -229,9 +229,9 @@ int32_t Job::runModel(std::set<int32_t>& acceptable)
     if (!oracle) {
         throw std::runtime_error("no oracle for " + function.group());
     }
-    int wanted = spec.laterThreads < 0 ? spec.threads : spec.laterThreads;
+    int wanted = plan.laterThreads < 0 ? plan.threads : plan.laterThreads;
     int team = goesParallel() ? wanted : 1;
-    int share = count(spec) / team, rest = count(spec) % team, start = 0;
+    int share = count(plan) / team, rest = count(plan) % team, start = 0;
     for (int t = 0; t < team; ++t) {
         int n = share + (t < rest);
         int32_t status =
@@ -271,12 +271,12 @@ std::string Job::describe() const
 {
     std::ostringstream text;
     text << function.name << " kernel" << (kernel.empty() ? " plain" : " " + kernel) << " (";
-    for (auto& [name, value] : spec.sizes) {
+    for (auto& [name, value] : plan.sizes) {
         text << name << " " << value << ", ";
     }
-    text << (spec.guard == Guard::none ? "" : spec.guard == Guard::before ? "closed before, " : "closed behind, ");
-    text << "threads " << spec.threads << ", seed " << spec.seed << ", values " << int(spec.values) << ")";
-    for (auto& [name, pattern] : spec.patterns) {
+    text << (plan.guard == Guard::none ? "" : plan.guard == Guard::before ? "closed before, " : "closed behind, ");
+    text << "threads " << plan.threads << ", seed " << plan.seed << ", values " << int(plan.values) << ")";
+    for (auto& [name, pattern] : plan.patterns) {
         text << " [" << (name.empty() ? "all" : name) << ": " << pattern.describe() << "]";
     }
     return text.str();
@@ -298,14 +298,14 @@ template <class T> void Job::forgiveNaN()
 {
     for (const std::string& name : laid) {
         const Operand& operand = operands.at(name);
-        if (!operand.spec.written || operand.spec.kind == ArgKind::indices) {
+        if (!operand.arg.written || operand.arg.kind == ArgKind::indices) {
             continue;
         }
         for (int i = 0; i < operand.shape.objects; ++i) {
             for (int e = 0; e < operand.shape.rows * operand.shape.cols; ++e) {
                 int64_t at = operand.storedOffset(i, e / operand.shape.cols, e % operand.shape.cols);
                 T got = load<T>(arena.live() + at), wanted = load<T>(arena.model() + at);
-                if (operand.spec.kind == ArgKind::scratch || sameBits(got, wanted)) {
+                if (operand.arg.kind == ArgKind::scratch || sameBits(got, wanted)) {
                     store<T>(arena.model() + at, got);
                 }
             }
@@ -356,7 +356,7 @@ std::string Job::owner(int64_t offset) const
 std::map<std::string, int32_t> equalSizes(const Function& function, int n, int count)
 {
     std::map<std::string, int32_t> sizes;
-    for (const ArgSpec& arg : function.args) {
+    for (const ArgRecord& arg : function.args) {
         if (arg.kind == ArgKind::integer) {
             sizes[arg.name] = arg.name == "count" ? count : n;
         }

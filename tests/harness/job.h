@@ -15,7 +15,7 @@ namespace harness {
 
 enum class Values { ordinary, special, zeros };
 
-struct JobSpec {
+struct JobPlan {
     std::map<std::string, int32_t> sizes;                            // the function's integer arguments, count included
     std::map<std::string, Pattern> patterns;                         // by operand; "" for all others
     std::map<std::string, std::pair<std::string, int64_t>> overlay;  // operand -> (operand laid before it, bytes from its start)
@@ -49,7 +49,7 @@ public:
     int cols() const { return operand.logicalCols(); }
 
 private:
-    int index(int object) const { return operand.spec.array ? object : 0; }
+    int index(int object) const { return operand.arg.array ? object : 0; }
     char* image;
     const Operand& operand;
 };
@@ -87,7 +87,7 @@ struct Oracle {
 
 class Job {
 public:
-    Job(const Function& described, const JobSpec& wanted);
+    Job(const Function& described, const JobPlan& wanted);
     Job(const Job&) = delete;
 
     // Runs both and compares. Empty if all agrees, else what differs.
@@ -108,7 +108,7 @@ public:
     int expectedQuestions() const;
 
     const Function& function;
-    JobSpec spec;
+    JobPlan plan;
     Arguments arguments;
     std::map<std::string, Operand> operands;
     std::vector<std::string> laid;  // names, in the order of the arguments

@@ -52,11 +52,11 @@ Pattern drawPattern(Style style, int elementSize, Random& random)
     return p;
 }
 
-void drawPatterns(JobSpec& spec, const Function& function, Style style, Random& random)
+void drawPatterns(JobPlan& plan, const Function& function, Style style, Random& random)
 {
-    for (const ArgSpec& arg : function.args) {
+    for (const ArgRecord& arg : function.args) {
         if (arg.kind != ArgKind::real && arg.kind != ArgKind::integer) {
-            spec.patterns[arg.name] = drawPattern(style, function.elementSize(), random);
+            plan.patterns[arg.name] = drawPattern(style, function.elementSize(), random);
         }
     }
 }
@@ -64,7 +64,7 @@ void drawPatterns(JobSpec& spec, const Function& function, Style style, Random& 
 std::map<std::string, int32_t> drawAgreeingSizes(const Function& function, Random& random)
 {
     bool matrices = std::any_of(
-        function.args.begin(), function.args.end(), [](const ArgSpec& arg) { return arg.letter == 'm' || arg.letter == 't'; });
+        function.args.begin(), function.args.end(), [](const ArgRecord& arg) { return arg.letter == 'm' || arg.letter == 't'; });
     int n = drawSize(!function.array && !matrices, random);
     int count = n > 9 && matrices ? 1 + int(random() % 3) : random() % 8 ? 1 + int(random() % 9) : 10 + int(random() % 30);
     std::map<std::string, int32_t> equal = equalSizes(function, n, count), sizes = equal;

@@ -14,7 +14,7 @@ enum class Style {
 
 Pattern drawPattern(Style style, int elementSize, Random& random);
 // A pattern of its own for each operand; only styles and seeds decide, so a failure can be drawn again.
-void drawPatterns(JobSpec& spec, const Function& function, Style style, Random& random);
+void drawPatterns(JobPlan& plan, const Function& function, Style style, Random& random);
 Style drawStyle(Random& random);
 // Sizes that agree with each other, count included; emphasis on 3 to 6, long ones for single vectors.
 std::map<std::string, int32_t> drawAgreeingSizes(const Function& function, Random& random);

@@ -4,7 +4,7 @@
 
 namespace harness {
 
-bool matrixMayBeInPlace(const Function& function, const std::string& kernel, const ArgSpec& source, int n)
+bool matrixMayBeInPlace(const Function& function, const std::string& kernel, const ArgRecord& source, int n)
 {
     if (function.family != "vokmMul" || function.form.find('c') != std::string::npos) {
         return source.letter == 'm' && source.array == function.array;
@@ -64,7 +64,7 @@ private:
         std::sort(elements.begin(), elements.end(), [](const Element& a, const Element& b) { return a.at < b.at; });
     }
 
-    static bool written(const Element& element) { return element.operand->spec.written; }
+    static bool written(const Element& element) { return element.operand->arg.written; }
     bool isOf(std::initializer_list<const char*> families) const
     {
         return std::find(families.begin(), families.end(), function.family) != families.end();
@@ -72,7 +72,7 @@ private:
 
     bool defined(const Element& result, const Element& other) const
     {
-        const ArgSpec &to = result.operand->spec, &from = other.operand->spec;
+        const ArgRecord &to = result.operand->arg, &from = other.operand->arg;
         if (to.kind == ArgKind::scratch || to.kind == ArgKind::indices || from.kind == ArgKind::scratch ||
             from.kind == ArgKind::indices || (written(other) && result.operand != other.operand)) {
             return false;
@@ -129,10 +129,10 @@ private:
         return length >= 3 && length <= 6;
     }
 
-    bool exact(const ArgSpec& source, int n) const
+    bool exact(const ArgRecord& source, int n) const
     {
         const bool elementwise = isOf({"vokmAdd", "vokmSub"}) || function.form.find('c') != std::string::npos;
-        for (auto& [name, value] : job.spec.sizes) {
+        for (auto& [name, value] : job.plan.sizes) {
             if (name != "count" && value != n && !elementwise) {
                 return false;
             }
@@ -162,7 +162,7 @@ int64_t touchedBehind(const Function& function, const std::map<std::string, int3
     }
     // 4x4 by 3 stored rows: the row behind src2 is multiplied too, into a fourth column.
     if (name == "vokmMul_mat_32f" && size("src1Width") == 4 && size("src1Height") == 4 && size("src2Height") == 3) {
-        return operand.spec.name == "src2" ? operand.stride1 : operand.spec.name == "dst" ? operand.elementSize : 0;
+        return operand.arg.name == "src2" ? operand.stride1 : operand.arg.name == "dst" ? operand.elementSize : 0;
     }
     // Rows on 16 bytes go two objects at a time, up to an even count.
     if (name == "vokmMul_tava_32f" && size("src1Width") == 3 && size("src1Height") == 3 && size("count") % 2) {

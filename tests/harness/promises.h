@@ -6,7 +6,7 @@ namespace harness {
 
 // A square of size n, object on object. Products: pointer kernels read an object whole before they store, and some dense kernels
 // of 32f finish with a row of the first operand, or hold the second, before they store.
-bool matrixMayBeInPlace(const Function& function, const std::string& kernel, const ArgSpec& source, int n);
+bool matrixMayBeInPlace(const Function& function, const std::string& kernel, const ArgRecord& source, int n);
 
 struct InPlace {
     const char *group, *source;

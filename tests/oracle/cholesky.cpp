@@ -59,7 +59,7 @@ struct CholeskyDecomp {
     template <class T> static void prepareAs(Job& job, Random& random)
     {
         Source<T> src(job, "src");
-        if (job.spec.values != Values::ordinary && random() % 2) {
+        if (job.plan.values != Values::ordinary && random() % 2) {
             return;
         }
         for (int i = 0; i < src.objects; ++i) {
