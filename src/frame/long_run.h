@@ -93,10 +93,8 @@ template <class V, bool past, class Op, class X, class Y, class T> VOKM_INLINE v
                 xs.fetch(at);
                 ys.fetch(at);
             }
-            storePastCache<V>(dst + at, r);
-        } else {
-            storeLanes<V>(dst + at, r);
         }
+        storeRegister<V, past>(dst + at, r);
     };
     for (; j + turn * N <= n; j += turn * N) {
         unrolled<turn>([&](auto k) VOKM_INLINE_LAMBDA { result(j + decltype(k)::value * N, decltype(k)::value); });

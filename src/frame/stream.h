@@ -25,6 +25,15 @@ template <class V> VOKM_INLINE void storePastCache(Element<V>* to, V v)
     }
 #endif
 }
+/// One register, past the cache or not.
+template <class V, bool past> VOKM_INLINE void storeRegister(Element<V>* to, V v)
+{
+    if constexpr (past) {
+        storePastCache<V>(to, v);
+    } else {
+        storeLanes<V>(to, v);
+    }
+}
 /// Makes such stores visible in order before what follows.
 inline void finishStoresPastCache() { _mm_sfence(); }
 
@@ -32,11 +41,11 @@ inline void finishStoresPastCache() { _mm_sfence(); }
 /// for by transposes alone.
 constexpr bool worthPastCache(i64 bytes) { return bytes > 24 << 20; }
 
-/// How far a loop that stores past the cache asks for its sources ahead: what the processor guesses is not far enough there.
-constexpr int fetchAhead = 2048;
-template <class T> VOKM_INLINE void fetchSource(const T* at)
+/// Asks for a source `ahead` bytes before it is read. A loop that stores past the cache needs it a little beyond what the
+/// processor guesses.
+template <int ahead = 2048, class T> VOKM_INLINE void fetchSource(const T* at)
 {
-    __builtin_prefetch(reinterpret_cast<const void*>(reinterpret_cast<std::uintptr_t>(at) + fetchAhead));
+    __builtin_prefetch(reinterpret_cast<const void*>(reinterpret_cast<std::uintptr_t>(at) + ahead));
 }
 
 }  // namespace vokm

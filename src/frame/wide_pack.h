@@ -65,13 +65,7 @@ template <int K, bool past = false, class T> VOKM_INLINE void storeWide(const Wi
 {
     WidePack<T> registers[K];
     turnWide<PickLane, 0>(lanes, registers);
-    for (int k = 0; k < K; ++k) {
-        if constexpr (past) {
-            storePastCache<WidePack<T>>(run + k * wideLanes<T>, registers[k]);
-        } else {
-            storeLanes<WidePack<T>>(run + k * wideLanes<T>, registers[k]);
-        }
-    }
+    for (int k = 0; k < K; ++k) storeRegister<WidePack<T>, past>(run + k * wideLanes<T>, registers[k]);
 }
 /// The K elements of the objects of pack p: of an array without gaps, or of a single operand.
 template <int K, class View> struct WideRuns {

@@ -34,11 +34,7 @@ template <class T> struct WideTraces {
         joinSources<PickElement, 9, 4, 1>(d[1], run);
         joinSources<PickElement, 9, 8, 1>(d[2], run);
         const V s = sum<Order::chain>(d);
-        if constexpr (past) {
-            storePastCache<V>(dst + i, s);
-        } else {
-            storeLanes<V>(dst + i, s);
-        }
+        storeRegister<V, past>(dst + i, s);
     }
 };
 

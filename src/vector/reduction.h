@@ -5,6 +5,7 @@
 
 #include "../frame/fixed.h"
 #include "../frame/overlap.h"
+#include "../frame/stream.h"
 #include "../frame/sums.h"
 #include "wide_sums.h"
 
@@ -62,8 +63,8 @@ template <int n, class A> VOKM_INLINE void fetchObjects(const A& a, i32 i)
 {
     if constexpr (A::array && A::dense) {
         const auto* const at = &a.object(i, Shape{1, n})(0, 0);
-        __builtin_prefetch(byBytes(at, 8192));
-        if constexpr (n > 4) __builtin_prefetch(byBytes(at, 8192 + 64));
+        fetchSource<8192>(at);
+        if constexpr (n > 4) fetchSource<8192 + 64>(at);
     }
 }
 

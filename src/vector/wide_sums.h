@@ -91,11 +91,7 @@ template <Order order, bool norms> struct WideThrees {
         turnWide<PickElement, 0>(products, p);
         V s = sum<order>(p);
         if constexpr (norms) s = wideRoot(s);
-        if constexpr (past) {
-            storePastCache<V>(dst + i, s);
-        } else {
-            storeLanes<V>(dst + i, s);
-        }
+        storeRegister<V, past>(dst + i, s);
     }
 };
 /// All objects, if they lie so and apart from the results; returns whether.

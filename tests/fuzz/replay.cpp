@@ -1,7 +1,8 @@
-// Inputs of the fuzzer without the fuzzer: those that it kept, one a line in hexadecimal, and some drawn at random.
+// Inputs of the fuzzer without the fuzzer: those that it kept, each behind its length in a byte, and some
+// drawn at random.
 //   vokm_fuzz_replay CORPUS COUNT [SEED]      runs the corpus and COUNT inputs drawn at random; part of the tests
 //   vokm_fuzz_replay --input FILE...          runs single inputs, such as the fuzzer leaves behind, and describes them
-//   vokm_fuzz_replay --line HEX...            the same for lines
+//   vokm_fuzz_replay --line HEX...            the same for inputs in hexadecimal, as they are told
 //   vokm_fuzz_replay --unpack CORPUS DIR      one file an input, as the fuzzer reads them
 //   vokm_fuzz_replay --pack DIR               the reverse, to the standard output
 #include <filesystem>
@@ -40,13 +41,14 @@ std::string toLine(const Input& input)
 
 std::vector<Input> readCorpus(const std::string& path)
 {
-    std::ifstream file(path);
+    std::ifstream file(path, std::ios::binary);
     if (!file) {
         throw std::runtime_error("cannot read " + path);
     }
     std::vector<Input> inputs;
-    for (std::string line; std::getline(file, line);) {
-        inputs.push_back(fromLine(line));
+    for (int length; (length = file.get()) >= 0;) {
+        inputs.emplace_back(length);
+        file.read(reinterpret_cast<char*>(inputs.back().data()), length);
     }
     return inputs;
 }
@@ -100,19 +102,19 @@ void unpack(const std::string& corpus, const std::filesystem::path& directory)
     }
 }
 
-// Zeros at the end say nothing, and the order is that of the bytes: a change of one input is a change of one line.
+// Zeros at the end say nothing, and in the order of their bytes the same inputs are always the same file.
 void pack(const std::string& directory)
 {
-    std::set<std::string> lines;
+    std::set<std::string> inputs;
     for (auto& entry : std::filesystem::directory_iterator(directory)) {
         Input input = readFile(entry.path());
         while (!input.empty() && input.back() == 0) {
             input.pop_back();
         }
-        lines.insert(toLine(input));
+        inputs.emplace(input.begin(), input.end());
     }
-    for (const std::string& line : lines) {
-        std::cout << line << '\n';
+    for (const std::string& input : inputs) {
+        std::cout << char(input.size()) << input;
     }
 }
 
